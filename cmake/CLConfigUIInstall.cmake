@@ -1,0 +1,25 @@
+# Installs the libraries, their headers and the package that find_package(CLConfigUI) finds.
+
+include(CMakePackageConfigHelpers)
+
+set(_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/CLConfigUI)
+get_property(_libraries GLOBAL PROPERTY CLCONFIGUI_LIBRARIES)
+
+install(TARGETS ${_libraries} EXPORT CLConfigUITargets)
+install(EXPORT CLConfigUITargets NAMESPACE CLConfigUI:: DESTINATION ${_package_dir})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/ ${PROJECT_BINARY_DIR}/include/
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/CLConfigUI
+        FILES_MATCHING PATTERN "*.h" PATTERN "private" EXCLUDE)
+if(CLCONFIGUI_PLATFORM STREQUAL "bundled")
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/CLConfigUI
+            FILES_MATCHING PATTERN "*.h" PATTERN "private" EXCLUDE)
+endif()
+
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/CLConfigUIConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/CLConfigUIConfig.cmake INSTALL_DESTINATION ${_package_dir})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/CLConfigUIConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES
+    ${PROJECT_BINARY_DIR}/CLConfigUIConfig.cmake
+    ${PROJECT_BINARY_DIR}/CLConfigUIConfigVersion.cmake
+    ${PROJECT_SOURCE_DIR}/cmake/FindQCustomPlotHeaders.cmake
+    DESTINATION ${_package_dir})

@@ -1,0 +1,30 @@
+# What every target of ours has in common: the warnings, and the way a shared library shows its headers.
+
+add_library(clconfigui_warnings INTERFACE)
+target_compile_options(clconfigui_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(CLCONFIGUI_WARNINGS_AS_ERRORS)
+    target_compile_options(clconfigui_warnings INTERFACE -Werror)
+endif()
+
+# Texts are QStringLiteral, u""_s or QLatin1String: a char array never turns into a QString by itself.
+add_library(clconfigui_strict INTERFACE)
+target_link_libraries(clconfigui_strict INTERFACE clconfigui_warnings)
+target_compile_definitions(clconfigui_strict INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+
+# clconfigui_add_library(NAME HEADER_ROOT)
+# A shared library NAME with the alias CLConfigUI::NAME and a generated export header <name_export.h>. Its headers are
+# included relative to HEADER_ROOT, in the build tree as after the installation.
+function(clconfigui_add_library name header_root)
+    add_library(${name} SHARED)
+    add_library(CLConfigUI::${name} ALIAS ${name})
+    string(TOLOWER ${name} lower)
+    generate_export_header(${name} EXPORT_FILE_NAME ${PROJECT_BINARY_DIR}/include/${lower}_export.h)
+    target_include_directories(${name} PUBLIC
+        $<BUILD_INTERFACE:${header_root}>
+        $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/CLConfigUI>)
+    target_compile_features(${name} PUBLIC cxx_std_20)
+    target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:clconfigui_strict>)
+    set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    set_property(GLOBAL APPEND PROPERTY CLCONFIGUI_LIBRARIES ${name})
+endfunction()

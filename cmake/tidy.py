@@ -1,0 +1,95 @@
+#!/usr/bin/env python3
+"""Runs clang-tidy over every source of a build tree and fails on the first finding.
+
+usage: tidy.py SOURCE_DIR BUILD_DIR
+
+A source whose text, headers, compiler options and checks are those of its last clean run is not looked at again, so
+that a second run takes a second. Needs a Ninja build that has been built: Ninja knows which headers a source includes.
+"""
+
+import concurrent.futures
+import hashlib
+import json
+import os
+import pathlib
+import shlex
+import subprocess
+import sys
+
+
+def dependencies(build_dir):
+    """Maps each object file to the files that it was compiled from."""
+    result, current = {}, None
+    listing = subprocess.run(["ninja", "-C", build_dir, "-t", "deps"], capture_output=True, text=True, check=True)
+    for line in listing.stdout.splitlines():
+        if line.startswith("    "):
+            result[current].append(line.strip())
+        elif ": #deps" in line:
+            current = line.split(": #deps")[0]
+            result[current] = []
+    return result
+
+
+def without_precompiled_headers(arguments):
+    """clang cannot read the headers that GCC has precompiled; it reads the original ones instead."""
+    kept, i = [], 0
+    while i < len(arguments):
+        if arguments[i] == "-include" and "cmake_pch" in arguments[i + 1]:
+            i += 2
+            continue
+        if arguments[i] not in ("-Winvalid-pch", "-fpch-preprocess"):
+            kept.append(arguments[i])
+        i += 1
+    return kept
+
+
+def main(source_dir, build_dir):
+    source_dir, build_dir = pathlib.Path(source_dir).resolve(), pathlib.Path(build_dir).resolve()
+    state_dir = build_dir / "tidy"
+    state_dir.mkdir(exist_ok=True)
+
+    common = hashlib.sha256()
+    common.update(subprocess.run(["clang-tidy", "--version"], capture_output=True, check=True).stdout)
+    common.update((source_dir / ".clang-tidy").read_bytes())
+
+    depends = dependencies(build_dir)
+    commands, todo = [], []
+    for entry in json.loads((build_dir / "compile_commands.json").read_text()):
+        source = pathlib.Path(entry["file"])
+        if not source.is_relative_to(source_dir) or source.is_relative_to(build_dir) or source.suffix != ".cpp":
+            continue
+        arguments = without_precompiled_headers(shlex.split(entry["command"]))
+        # Headers that come through a precompiled one need not be listed with the object: they are the system's.
+        commands.append({"directory": entry["directory"], "file": entry["file"], "arguments": arguments})
+
+        key = common.copy()
+        key.update("\0".join(arguments).encode())
+        output = arguments[arguments.index("-o") + 1]
+        for file in sorted({str(source), *depends.get(output, [])}):
+            path = build_dir / file
+            if path.is_relative_to(source_dir) and path.suffix in (".cpp", ".h"):
+                key.update(path.read_bytes())
+        stamp = state_dir / hashlib.sha256(output.encode()).hexdigest()
+        if not stamp.exists() or stamp.read_text() != key.hexdigest():
+            todo.append((source, stamp, key.hexdigest()))
+    (state_dir / "compile_commands.json").write_text(json.dumps(commands))
+
+    def check(job):
+        source, stamp, key = job
+        run = subprocess.run(["clang-tidy", "--quiet", "-p", str(state_dir), str(source)], capture_output=True, text=True)
+        if run.returncode == 0:
+            stamp.write_text(key)
+        return source, run
+
+    failed = 0
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        for source, run in pool.map(check, todo):
+            if run.returncode != 0:
+                failed += 1
+                print(run.stdout, run.stderr, sep="\n")
+    print(f"{len(commands)} sources, {len(todo)} of them looked at, {failed} with findings")
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))

@@ -1,0 +1,126 @@
+#include <batterydata/ClConfigDataArray.h>
+
+#include <datastorage/Converter.h>
+
+#include <QJsonObject>
+#include <QJsonValue>
+
+#include <optional>
+#include <utility>
+
+namespace cl::batterydata {
+
+using cl::datastorage::Converter;
+using cl::datastorage::DataConfigType;
+using cl::datastorage::DataType;
+using cl::datastorage::PhysicalParameter;
+using cl::datastorage::UsualUnit;
+
+namespace {
+
+constexpr QLatin1String physicalParameterKey("physicalParameter");
+constexpr QLatin1String dataTypeKey("dataType");
+constexpr QLatin1String unitKey("unit");
+constexpr QLatin1String configTypeKey("configType");
+constexpr QLatin1String descriptionKey("description");
+constexpr QLatin1String machineNameKey("machineName");
+constexpr QLatin1String requiredKey("required");
+constexpr QLatin1String formulaKey("formula");
+constexpr QLatin1String exportCategoryKey("exportCategory");
+
+bool isEnumerator(PhysicalParameter value)
+{
+    return !Converter::toString(value).isEmpty();
+}
+bool isEnumerator(DataType value)
+{
+    return value >= DataType::Double && value <= DataType::Text;
+}
+bool isEnumerator(DataConfigType value)
+{
+    return value == DataConfigType::Measured || value == DataConfigType::Computed;
+}
+bool isEnumerator(ExportCategory value)
+{
+    return value >= ExportCategory::Never && value <= ExportCategory::Complete;
+}
+
+template <typename Enumeration>
+bool readEnumeration(const QJsonObject& object, QLatin1String key, Enumeration& result)
+{
+    result = static_cast<Enumeration>(object.value(key).toInt(-1));
+    return isEnumerator(result);
+}
+
+bool readText(const QJsonObject& object, QLatin1String key, QString& result)
+{
+    const QJsonValue value = object.value(key);
+    result = value.toString();
+    return value.isString();
+}
+
+} // namespace
+
+ClConfigDataArray::ClConfigDataArray() = default;
+
+ClConfigDataArray::ClConfigDataArray(const QString& name, const PhysicalParameter& physicalParameter,
+                                     const DataType& dataType, const UsualUnit& unit, DataConfigType configType,
+                                     const QString& description, const QString& machineName, const QString& category,
+                                     bool required, const QString& formula)
+    : ConfigDataArray(name, category)
+    , m_physicalParameter(physicalParameter)
+    , m_dataType(dataType)
+    , m_unit(unit)
+    , m_configType(configType)
+    , m_description(description)
+    , m_machineName(machineName)
+    , m_required(required)
+    , m_formula(formula)
+{
+}
+
+ClConfigDataArray::~ClConfigDataArray() = default;
+
+bool ClConfigDataArray::read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context)
+{
+    ClConfigDataArray array(*this);
+    QString unit;
+    const QJsonValue required = object.value(requiredKey);
+    const bool isRead = array.ConfigDataArray::read(object, version, context)
+        && readEnumeration(object, physicalParameterKey, array.m_physicalParameter)
+        && readEnumeration(object, dataTypeKey, array.m_dataType)
+        && readEnumeration(object, configTypeKey, array.m_configType)
+        && readEnumeration(object, exportCategoryKey, array.m_exportCategory) && readText(object, unitKey, unit)
+        && readText(object, descriptionKey, array.m_description)
+        && readText(object, machineNameKey, array.m_machineName) && readText(object, formulaKey, array.m_formula)
+        && required.isBool();
+    const std::optional<UsualUnit> knownUnit = Converter::getUnitFromString(unit);
+    if (!isRead || !knownUnit) {
+        return false;
+    }
+    array.m_unit = *knownUnit;
+    array.m_required = required.toBool();
+    *this = std::move(array);
+    return true;
+}
+
+bool ClConfigDataArray::write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const
+{
+    object.insert(physicalParameterKey, static_cast<int>(m_physicalParameter));
+    object.insert(unitKey, Converter::toString(m_unit));
+    object.insert(dataTypeKey, static_cast<int>(m_dataType));
+    object.insert(configTypeKey, static_cast<int>(m_configType));
+    object.insert(exportCategoryKey, static_cast<int>(m_exportCategory));
+    object.insert(descriptionKey, m_description);
+    object.insert(machineNameKey, m_machineName);
+    object.insert(formulaKey, m_formula);
+    object.insert(requiredKey, m_required);
+    return ConfigDataArray::write(object, version, context);
+}
+
+QString ClConfigDataArray::PotentiostatMeasure()
+{
+    return QStringLiteral("Potentiostat");
+}
+
+} // namespace cl::batterydata

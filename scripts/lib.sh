@@ -1,0 +1,48 @@
+# What the scripts of this folder share. Sourced, not run.
+
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# need PACKAGE...: installs those of the distribution's packages that are missing.
+need() {
+    local missing=() package
+    for package in "$@"; do
+        if [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" != installed ]; then
+            missing+=("$package")
+        fi
+    done
+    if [ ${#missing[@]} -gt 0 ]; then
+        echo "Installing ${missing[*]}" >&2
+        as_root env DEBIAN_FRONTEND=noninteractive sh -c \
+            'apt-get update -qq && apt-get install -y -qq --no-install-recommends "$@" >/dev/null' sh "${missing[@]}" >&2
+    fi
+}
+
+need_to_build() {
+    need g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools libqcustomplot-dev libcli11-dev
+}
+
+need_to_test() {
+    need_to_build
+    need libgtest-dev libgmock-dev
+}
+
+# build PRESET [TARGET...]: configures the preset if it is not, and builds it; what went wrong is shown, and only that.
+build() {
+    local preset=$1 log
+    shift
+    log=$(mktemp)
+    if ! {
+        { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
+            cmake --build "build/$preset" ${1:+--target "$@"}
+    } >"$log" 2>&1; then
+        cat "$log" >&2
+        rm -f "$log"
+        return 1
+    fi
+    rm -f "$log"
+}

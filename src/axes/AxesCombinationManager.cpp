@@ -1,0 +1,186 @@
+#include <axes/AxesCombinationManager.h>
+
+#include <axes/private/JsonFields.h>
+#include <axes/private/RecordList.h>
+#include <batterydata/ClConfigDataArray.h>
+#include <config/ConfigRepresentation.h>
+#include <dataprocess/IDataStream.h>
+
+#include <QSet>
+
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto CombinationsKey = "axesCombinations"_L1;
+
+constexpr int NoIndex = -1;
+
+/// The text key of a record's identities, as DataStreamCombination::toString() gives it, by its hash: the text itself
+/// is only made when two hashes are equal.
+struct IdentityKey
+{
+    size_t hash = 0;
+    const AxesCombination* combination = nullptr;
+
+    friend size_t qHash(const IdentityKey& key, size_t /*seed*/) { return key.hash; }
+    friend bool operator==(const IdentityKey& a, const IdentityKey& b)
+    {
+        return a.hash == b.hash
+            && (*a.combination == *b.combination
+                || a.combination->getDataStreamCombination().toString()
+                    == b.combination->getDataStreamCombination().toString());
+    }
+};
+
+/// \p buffer is scratch space, so that a long list allocates it once.
+IdentityKey identityKey(const AxesCombination& combination, QString& buffer)
+{
+    const auto& x = combination.getConfigX();
+    const auto& y = combination.getConfigY();
+    buffer.resize(0);
+    buffer.append(x.getCategory()).append(u' ').append(x.getName()).append(u' ');
+    buffer.append(y.getCategory()).append(u' ').append(y.getName());
+    return {qHash(QStringView(buffer)), &combination};
+}
+
+cl::datastorage::DataArrayIdentifier identifierOf(const cl::dataprocess::IDataStream& stream)
+{
+    return cl::batterydata::ClConfigDataArray(stream.getName(), stream.getPhysicalParameter(), stream.getDataType(),
+                                              stream.getUsualUnit(), cl::datastorage::DataConfigType{}, QString(),
+                                              QString(), stream.getCategory(), false, QString());
+}
+
+} // namespace
+
+AxesCombinationManager::AxesCombinationManager() = default;
+AxesCombinationManager::AxesCombinationManager(const AxesCombinationManager& other) = default;
+AxesCombinationManager& AxesCombinationManager::operator=(const AxesCombinationManager& other) = default;
+AxesCombinationManager::~AxesCombinationManager() = default;
+
+bool AxesCombinationManager::read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context)
+{
+    replaceCombinations(readRecords<AxesCombination>(jsonfields::array(object, CombinationsKey), version, context));
+    return true;
+}
+
+bool AxesCombinationManager::write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const
+{
+    object.insert(CombinationsKey, writeRecords(m_combinations, version, context));
+    return true;
+}
+
+QList<AxesCombination> AxesCombinationManager::getAxesCombinations(const QString& x) const
+{
+    const QList<qsizetype> records = m_index.records(x);
+    QList<AxesCombination> result;
+    result.reserve(records.size());
+    for (const qsizetype record : records) {
+        result.append(m_combinations.at(record));
+    }
+    return result;
+}
+
+AxesCombination AxesCombinationManager::getAxesCombination(const QString& x, const QString& y) const
+{
+    const qsizetype record = m_index.find(x, y);
+    return record < 0 ? AxesCombination() : m_combinations.at(record);
+}
+
+QList<QString> AxesCombinationManager::getXAxesNames() const
+{
+    return m_index.xNames();
+}
+
+QList<QString> AxesCombinationManager::getYAxesNames(const QString& x) const
+{
+    return m_index.yNames(x);
+}
+
+bool AxesCombinationManager::isRepresentationValid(const ConfigRepresentation* const representation) const
+{
+    return representation != nullptr
+        && (m_index.find(representation->x(), representation->y1()) >= 0
+            || m_index.find(representation->x(), representation->y2()) >= 0);
+}
+
+void AxesCombinationManager::append(const AxesCombination& combination)
+{
+    m_combinations.append(combination);
+    indexRecord(m_combinations.size() - 1);
+}
+
+void AxesCombinationManager::append(const cl::datastorage::DataArrayIdentifier& x,
+                                    const cl::datastorage::DataArrayIdentifier& y, QCPAxis::ScaleType scaleX,
+                                    QCPAxis::ScaleType scaleY, bool orthonormal)
+{
+    m_combinations.emplaceBack(x, y, scaleX, scaleY, orthonormal);
+    indexRecord(m_combinations.size() - 1);
+}
+
+void AxesCombinationManager::deleteAll()
+{
+    replaceCombinations({});
+}
+
+void AxesCombinationManager::addCombinationsFromStreams(const QList<cl::dataprocess::IDataStream*>& streams, int index)
+{
+    struct Candidate
+    {
+        cl::datastorage::DataArrayIdentifier identifier;
+        bool servesAsX;
+    };
+    std::vector<Candidate> candidates;
+    candidates.reserve(static_cast<size_t>(streams.size()));
+    for (const auto* stream : streams) {
+        if (index == NoIndex || stream->hasIndex(index)) {
+            candidates.push_back({identifierOf(*stream), index < stream->getCount()});
+        }
+    }
+    for (const Candidate& x : candidates) {
+        if (!x.servesAsX) {
+            continue;
+        }
+        for (const Candidate& y : candidates) {
+            append(x.identifier, y.identifier, QCPAxis::stLinear, QCPAxis::stLinear, false);
+        }
+    }
+}
+
+void AxesCombinationManager::removeDuplicates()
+{
+    QSet<IdentityKey> seen;
+    seen.reserve(m_combinations.size());
+    QList<AxesCombination> kept;
+    QString buffer;
+    for (const AxesCombination& combination : std::as_const(m_combinations)) {
+        if (!combination.isValid()) {
+            continue;
+        }
+        const qsizetype known = seen.size();
+        seen.insert(identityKey(combination, buffer));
+        if (seen.size() != known) {
+            kept.append(combination);
+        }
+    }
+    replaceCombinations(kept);
+}
+
+void AxesCombinationManager::indexRecord(qsizetype record)
+{
+    const AxesCombination& combination = m_combinations.at(record);
+    if (combination.isValid()) {
+        m_index.add(combination.getConfigX().getName(), combination.getConfigY().getName(), record);
+    }
+}
+
+void AxesCombinationManager::replaceCombinations(const QList<AxesCombination>& combinations)
+{
+    m_combinations = combinations;
+    m_index.clear();
+    for (qsizetype record = 0; record < m_combinations.size(); ++record) {
+        indexRecord(record);
+    }
+}

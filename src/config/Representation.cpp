@@ -1,0 +1,12 @@
+#include <config/Representation.h>
+
+#include <config/ConfigRepresentation.h>
+
+Representation::Representation(ConfigRepresentation* config)
+    : m_config(std::make_unique<ConfigRepresentation>(*config))
+{
+}
+
+Representation::Representation(Representation&& other) noexcept = default;
+Representation& Representation::operator=(Representation&& other) noexcept = default;
+Representation::~Representation() = default;

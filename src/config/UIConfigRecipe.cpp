@@ -1,0 +1,57 @@
+#include <config/UIConfig.h>
+
+#include <axes/private/JsonFields.h>
+
+#include <QJsonArray>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto RecipeKey = "Recipe"_L1;
+constexpr auto TitleKey = "UITitle"_L1;
+constexpr QLatin1StringView ParameterKeys[] = {"Param1"_L1, "Param2"_L1, "Param3"_L1, "Param4"_L1, "Param5"_L1};
+
+constexpr auto RecipeMissing = "Missing recipe node"_L1;
+constexpr auto CommandNotAnArray = " command is not a Json array"_L1;
+
+} // namespace
+
+bool UIConfig::readContentListForRecipe(const QJsonObject& root, QString& error)
+{
+    const QJsonValue recipe = root.value(RecipeKey);
+    if (!recipe.isObject()) {
+        error = RecipeMissing;
+        return false;
+    }
+    return readRecipeCommandConfig(recipe, graphCommand(), m_recipeGraphCombinationsList, error)
+        && readRecipeCommandConfig(recipe, toolSummaryCommand(), m_recipeToolsTablesList, error)
+        && readRecipeCommandConfig(recipe, toolStatisticsCommand(), m_recipeToolsGraphsList, error)
+        && readRecipeCommandConfig(recipe, toolProcessedDataCommand(), m_recipeToolsGraphsList, error);
+}
+
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the interface takes the value by value
+bool UIConfig::readRecipeCommandConfig(QJsonValue recipe, const QString& command, QList<RecipeConfigItem>& list,
+                                       QString& error)
+{
+    const QJsonValue group = recipe.toObject().value(command);
+    if (!group.isArray()) {
+        error = command + CommandNotAnArray;
+        return false;
+    }
+    const QJsonArray entries = group.toArray();
+    for (const auto& element : entries) {
+        const QJsonObject entry = element.toObject();
+        RecipeConfigItem item;
+        item.setType(command);
+        item.setUiTitle(jsonfields::text(entry, TitleKey));
+        for (const QLatin1StringView key : ParameterKeys) {
+            const auto parameter = entry.constFind(key);
+            if (parameter != entry.constEnd() && parameter->isString()) {
+                item.addParameter(parameter->toString());
+            }
+        }
+        list.append(item);
+    }
+    return true;
+}

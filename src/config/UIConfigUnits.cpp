@@ -1,0 +1,46 @@
+#include <config/UIConfig.h>
+
+#include <axes/private/JsonFields.h>
+#include <config/MSVUnitsCombination.h>
+#include <datastorage/Converter.h>
+
+#include <QJsonArray>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using cl::datastorage::Converter;
+
+namespace {
+
+constexpr auto SectionKey = "MSVUnits"_L1;
+constexpr auto PhysicalParameterKey = "PhysicalParameter"_L1;
+constexpr auto OperatorKey = "Operator"_L1;
+constexpr auto MultiParamsKey = "MultiParams"_L1;
+
+constexpr auto SectionMissing = "Multi units combinations array missing"_L1;
+
+} // namespace
+
+bool UIConfig::readMSVUnitsCombinationsConfig(const QJsonObject& root, QString& error)
+{
+    const QJsonValue section = root.value(SectionKey);
+    if (!section.isArray()) {
+        error = SectionMissing;
+        return false;
+    }
+    const QJsonArray entries = section.toArray();
+    for (const auto& element : entries) {
+        const QJsonObject entry = element.toObject();
+        auto combination = std::make_unique<MSVUnitsCombination>();
+        combination->setPhysicalParameter(
+            Converter::getPhysicalParameterFromString(jsonfields::text(entry, PhysicalParameterKey)));
+        combination->setOperator(Converter::getOperatorFromString(jsonfields::text(entry, OperatorKey)));
+        const QJsonArray parameters = jsonfields::array(entry, MultiParamsKey);
+        for (const auto& parameter : parameters) {
+            combination->addMultiParamToList(Converter::getPhysicalParameterFromString(parameter.toString()));
+        }
+        m_msvUnitsCombinationManager.append(combination.release());
+    }
+    return true;
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <clconfigui_export.h>
+
+#include <QList>
+
+class AxesCombination;
+class RagonePlotChildItem;
+class StatisticsChildItem;
+
+/// Lets code that knows only this adaptor add elements to a list. The base ignores them; ContainerAdaptor appends.
+///
+/// The adaptor borrows the list, which must outlive it. There is no virtual destructor: an adaptor is never deleted
+/// through its base.
+template <typename Container, typename Element>
+class ContainerAdaptorBase
+{
+public:
+    explicit ContainerAdaptorBase(Container* container)
+        : m_container(container)
+    {
+    }
+
+    virtual void addElement(const Element& element);
+
+protected:
+    Container* m_container;
+};
+
+/// Appends a copy of every element to the end of the list.
+///
+/// REQUIRES: the list is not null.
+template <typename Container, typename Element>
+class ContainerAdaptor : public ContainerAdaptorBase<Container, Element>
+{
+public:
+    using ContainerAdaptorBase<Container, Element>::ContainerAdaptorBase;
+
+    void addElement(const Element& element) override;
+};
+
+// The library holds the only instantiations.
+extern template class CLCONFIGUI_EXPORT ContainerAdaptorBase<QList<AxesCombination>, AxesCombination>;
+extern template class CLCONFIGUI_EXPORT ContainerAdaptorBase<QList<RagonePlotChildItem>, RagonePlotChildItem>;
+extern template class CLCONFIGUI_EXPORT ContainerAdaptorBase<QList<StatisticsChildItem>, StatisticsChildItem>;
+extern template class CLCONFIGUI_EXPORT ContainerAdaptor<QList<AxesCombination>, AxesCombination>;
+extern template class CLCONFIGUI_EXPORT ContainerAdaptor<QList<RagonePlotChildItem>, RagonePlotChildItem>;
+extern template class CLCONFIGUI_EXPORT ContainerAdaptor<QList<StatisticsChildItem>, StatisticsChildItem>;

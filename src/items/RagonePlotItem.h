@@ -1,0 +1,49 @@
+#pragma once
+
+#include <archive/ArchiveContext.h>
+#include <clconfigui_export.h>
+#include <items/RagonePlotChildItem.h>
+
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+
+/// A Ragone plot, energy against power of several cells: a title and its curves in order.
+/// A value that owns its curves.
+class CLCONFIGUI_EXPORT RagonePlotItem
+{
+public:
+    RagonePlotItem();
+    RagonePlotItem(const RagonePlotItem& other);
+    RagonePlotItem& operator=(const RagonePlotItem& other);
+    virtual ~RagonePlotItem();
+
+    /// Replaces title and curves by the archived ones, up to the first curve that refuses to be read. Always true.
+    virtual bool read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context);
+
+    /// Stores title and curves, up to the first curve that refuses to be written. Always true.
+    virtual bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const;
+
+    const QString& getTitle() const { return m_title; }
+    void setTitle(const QString& title) { m_title = title; }
+
+    /// Appends a copy, also of a curve whose title is there already.
+    void addGraphItem(const RagonePlotChildItem& curve) { m_graphItems.append(curve); }
+
+    /// A copy of the first curve with exactly this title; a curve with an empty title when there is none.
+    // NOLINTNEXTLINE(readability-const-return-type): callers rely on the declared type
+    const RagonePlotChildItem getGraphItemFromTitle(const QString& title) const;
+
+    /// The titles of all curves in order, empty and repeated ones included.
+    QList<QString> getGraphItemsTitleList() const;
+
+    const QList<RagonePlotChildItem>& getGraphItemsList() const { return m_graphItems; }
+
+    /// Takes \p title and appends the curves that stand under it in \p section, an object of the configuration document
+    /// with an array of curves for each graph. Curves that the graph had before stay; anything but an array adds none.
+    void readGraphItem(const QString& title, const QJsonObject& section);
+
+private:
+    QString m_title;
+    QList<RagonePlotChildItem> m_graphItems;
+};

@@ -1,0 +1,40 @@
+#include <items/StatisticsChildItem.h>
+
+#include <axes/private/CatalogueLookup.h>
+#include <axes/private/JsonFields.h>
+#include <items/private/Curves.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto EnvelopeKey = "isStatisticsEnvelope"_L1;
+constexpr auto ErrorBarsKey = "isStatisticsErrorBars"_L1;
+
+} // namespace
+
+StatisticsChildItem::StatisticsChildItem() = default;
+StatisticsChildItem::StatisticsChildItem(const StatisticsChildItem& other) = default;
+StatisticsChildItem& StatisticsChildItem::operator=(const StatisticsChildItem& other) = default;
+StatisticsChildItem::~StatisticsChildItem() = default;
+
+bool StatisticsChildItem::read(const QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/)
+{
+    curves::readTexts(*this, object, curves::ArchiveKeys);
+    m_isStatisticsEnvelope = jsonfields::flag(object, EnvelopeKey);
+    m_isStatisticsErrorBars = jsonfields::flag(object, ErrorBarsKey);
+    return true;
+}
+
+bool StatisticsChildItem::write(QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/) const
+{
+    curves::writeTexts(*this, object);
+    object.insert(EnvelopeKey, m_isStatisticsEnvelope);
+    object.insert(ErrorBarsKey, m_isStatisticsErrorBars);
+    return true;
+}
+
+AxesCombination StatisticsChildItem::getAxesCombination() const
+{
+    return linearCombinationFromCatalogue(m_category, m_streamX, m_streamY);
+}

@@ -1,0 +1,51 @@
+#include <items/StatisticsItem.h>
+
+#include <axes/private/JsonFields.h>
+#include <axes/private/RecordList.h>
+#include <items/private/Curves.h>
+#include <items/private/TitleLookup.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto TitleKey = "title"_L1;
+constexpr auto GraphItemsKey = "graphItemsList"_L1;
+
+} // namespace
+
+StatisticsItem::StatisticsItem() = default;
+StatisticsItem::StatisticsItem(const StatisticsItem& other) = default;
+StatisticsItem& StatisticsItem::operator=(const StatisticsItem& other) = default;
+StatisticsItem::~StatisticsItem() = default;
+
+bool StatisticsItem::read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context)
+{
+    m_title = jsonfields::text(object, TitleKey);
+    m_graphItems = readRecords<StatisticsChildItem>(jsonfields::array(object, GraphItemsKey), version, context);
+    return true;
+}
+
+bool StatisticsItem::write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const
+{
+    object.insert(TitleKey, m_title);
+    object.insert(GraphItemsKey, writeRecords(m_graphItems, version, context));
+    return true;
+}
+
+const StatisticsChildItem
+StatisticsItem::getGraphItemFromTitle(const QString& title) const // NOLINT(readability-const-return-type)
+{
+    return firstWithTitle(m_graphItems, title);
+}
+
+QList<QString> StatisticsItem::getGraphItemsTitleList() const
+{
+    return curves::titles(m_graphItems);
+}
+
+void StatisticsItem::readGraphItem(const QString& title, const QJsonObject& section)
+{
+    m_title = title;
+    curves::appendFromConfiguration(m_graphItems, section.value(title).toArray());
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+/// The subcommands of the program, each in a source file of its name. Each adds itself, its options and its help to the
+/// program; its callback does the work and throws CLI::RuntimeError with the exit code when there is nothing to show.
+namespace cluiconfig {
+
+/// Exit codes: 0 is success.
+constexpr int ExitRefused = 1; ///< The document is refused, or something in it fails.
+constexpr int ExitCannotRun = 2; ///< The command could not do its work: wrong arguments, an unreadable file.
+
+void addSearchCommand(CLI::App& program);
+void addShowCommand(CLI::App& program);
+
+} // namespace cluiconfig

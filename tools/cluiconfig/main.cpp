@@ -1,0 +1,45 @@
+#include "Commands.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace {
+
+/// The arguments without the program's name, in UTF-8 whatever the platform's encoding, last one first as the parser
+/// takes them.
+std::vector<std::string> reversedArguments()
+{
+    std::vector<std::string> arguments;
+    const QStringList given = QCoreApplication::arguments().mid(1);
+    for (const QString& argument : given) {
+        arguments.push_back(argument.toStdString());
+    }
+    std::reverse(arguments.begin(), arguments.end());
+    return arguments;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("cluiconfig"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Cellaro"));
+
+    CLI::App program("Shows what a UIConfig.json document gives the application, and searches technique names.",
+                     "cluiconfig");
+    program.require_subcommand(1);
+    program.set_version_flag("--version", "cluiconfig " CLCONFIGUI_VERSION ", UIConfig.json format version 29");
+    cluiconfig::addShowCommand(program);
+    try {
+        program.parse(reversedArguments());
+    } catch (const CLI::RuntimeError& error) {
+        return error.get_exit_code();
+    } catch (const CLI::ParseError& error) {
+        return program.exit(error) == 0 ? 0 : cluiconfig::ExitCannotRun;
+    }
+    return 0;
+}
