@@ -5,6 +5,10 @@ include(CMakePackageConfigHelpers)
 set(_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/CLConfigUI)
 get_property(_libraries GLOBAL PROPERTY CLCONFIGUI_LIBRARIES)
 
+# The libraries need each other, and find each other wherever the directory in which all of them stand is moved to.
+if(UNIX AND NOT APPLE)
+    set_target_properties(${_libraries} PROPERTIES INSTALL_RPATH "$ORIGIN")
+endif()
 install(TARGETS ${_libraries} EXPORT CLConfigUITargets)
 install(EXPORT CLConfigUITargets NAMESPACE CLConfigUI:: DESTINATION ${_package_dir})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/ ${PROJECT_BINARY_DIR}/include/

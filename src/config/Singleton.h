@@ -26,7 +26,8 @@ public:
     class token
     {
         friend class Singleton;
-        token() { } // user-provided on purpose: a defaulted one would let `{}` through
+        // User-provided on purpose: up to C++17 a defaulted one would let `{}` through.
+        token() { } // NOLINT(modernize-use-equals-default)
     };
 
     /// The one object of the process. The first call constructs it; a thread that comes while another one constructs

@@ -3,7 +3,7 @@
 #include <datastorage/JsonUtils.h>
 
 #include <algorithm>
-#include <iterator>
+#include <array>
 
 using cl::datastorage::JsonUtils;
 
@@ -43,7 +43,7 @@ void UIConfig::deleteAll()
 bool UIConfig::readUIConfiguration(const QString& path, QString& error)
 {
     using Reader = bool (UIConfig::*)(const QJsonObject&, QString&);
-    constexpr Reader Readers[] = {
+    constexpr auto Readers = std::to_array<Reader>({
         &UIConfig::readRepresentations,
         &UIConfig::readMSVUnitsCombinationsConfig,
         &UIConfig::readFilters,
@@ -56,10 +56,9 @@ bool UIConfig::readUIConfiguration(const QString& path, QString& error)
         &UIConfig::readProcessFormulaConfig,
         &UIConfig::readDQdUColumns,
         &UIConfig::readDebugFlags,
-    };
+    });
     QJsonObject root;
     return JsonUtils::openJsonDocument(path, error, root) && JsonUtils::checkVersionNumber(root, FormatVersion, error)
         && m_axesCombinationManager.readAxesCombinations(root, error)
-        && std::all_of(std::begin(Readers), std::end(Readers),
-                       [&](Reader reader) { return (this->*reader)(root, error); });
+        && std::all_of(Readers.begin(), Readers.end(), [&](Reader reader) { return (this->*reader)(root, error); });
 }

@@ -4,13 +4,15 @@
 
 #include <QJsonArray>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr auto RecipeKey = "Recipe"_L1;
 constexpr auto TitleKey = "UITitle"_L1;
-constexpr QLatin1StringView ParameterKeys[] = {"Param1"_L1, "Param2"_L1, "Param3"_L1, "Param4"_L1, "Param5"_L1};
+constexpr std::array ParameterKeys{"Param1"_L1, "Param2"_L1, "Param3"_L1, "Param4"_L1, "Param5"_L1};
 
 constexpr auto RecipeMissing = "Missing recipe node"_L1;
 constexpr auto CommandNotAnArray = " command is not a Json array"_L1;

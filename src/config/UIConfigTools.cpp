@@ -6,6 +6,9 @@
 
 #include <QJsonArray>
 
+#include <array>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using cl::batterydata::ClConfigDataArray;
 using cl::batterydata::ClConfigDataArrayManager;
@@ -67,10 +70,11 @@ QString UIConfig::toolProcessedDataCommand()
 bool UIConfig::readTools(const QJsonObject& root, QString& error)
 {
     const QJsonObject table = root.value(ToolsKey).toObject().value(SummaryTableKey).toObject();
-    const std::pair<QLatin1StringView, QList<ClConfigDataArray*>&> kinds[] = {
-        {PerStepKey, m_summaryTablePerStepColumns},
-        {PerCycleKey, m_summaryTablePerCycleColumns},
-        {PerLoopKey, m_summaryTablePerLoopColumns},
+    using Kind = std::pair<QLatin1StringView, QList<ClConfigDataArray*>&>;
+    const std::array kinds{
+        Kind{PerStepKey, m_summaryTablePerStepColumns},
+        Kind{PerCycleKey, m_summaryTablePerCycleColumns},
+        Kind{PerLoopKey, m_summaryTablePerLoopColumns},
     };
     for (const auto& [key, columns] : kinds) {
         const QJsonValue kind = table.value(key);

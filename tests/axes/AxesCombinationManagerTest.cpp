@@ -2,8 +2,6 @@
 
 #include <axes/Records.h>
 #include <config/ConfigRepresentation.h>
-#include <support/FakeDataStream.h>
-#include <support/Json.h>
 #include <support/QtPrinters.h>
 #include <support/VirtualSlot.h>
 
@@ -41,33 +39,6 @@ static_assert(std::has_virtual_destructor_v<Manager>);
 static_assert(std::is_copy_constructible_v<Manager>);
 static_assert(std::is_copy_assignable_v<Manager>);
 
-constexpr int AnyVersion = 29;
-constexpr int NoIndex = -1;
-
-constexpr auto Linear = QCPAxis::stLinear;
-constexpr auto Logarithmic = QCPAxis::stLogarithmic;
-
-Manager managerOf(const QList<AxesCombination>& records)
-{
-    Manager manager;
-    for (const AxesCombination& combination : records) {
-        manager.append(combination);
-    }
-    return manager;
-}
-
-/// Voltage and Charge over Time in two categories, Time over Charge, and an invalid record before all of them.
-Manager sampleManager()
-{
-    return managerOf({
-        record({u"Time"_s, u"Step"_s}, {u"Nothing"_s, u""_s}),
-        record({u"Time"_s, u"Step"_s}, {u"Voltage"_s, u"Step"_s}, Logarithmic, Linear),
-        record({u"Time"_s, u"Cycle"_s}, {u"Voltage"_s, u"Cycle"_s}, Linear, Logarithmic, true),
-        record({u"Charge"_s, u"Cycle"_s}, {u"Time"_s, u"Cycle"_s}),
-        record({u"Time"_s, u"Cycle"_s}, {u"Charge"_s, u"Cycle"_s}),
-    });
-}
-
 ConfigRepresentation representation(const QString& x, const QString& y1, const QString& y2)
 {
     return {u"name"_s, x, y1, y2, u"category"_s, false};
@@ -77,26 +48,6 @@ bool isValid(const Manager& manager, const QString& x, const QString& y1, const 
 {
     const ConfigRepresentation candidate = representation(x, y1, y2);
     return manager.isRepresentationValid(&candidate);
-}
-
-QJsonObject written(const Manager& manager, QJsonObject object = {})
-{
-    cl::archive::ArchiveContext context;
-    EXPECT_TRUE(manager.write(object, AnyVersion, context));
-    return object;
-}
-
-void readInto(Manager& manager, const QJsonObject& object)
-{
-    cl::archive::ArchiveContext context;
-    EXPECT_TRUE(manager.read(object, AnyVersion, context));
-}
-
-QStringList fromStreams(const QList<IDataStream*>& streams, int index)
-{
-    Manager manager;
-    manager.addCombinationsFromStreams(streams, index);
-    return described(manager.getAxesCombinations());
 }
 
 } // namespace
@@ -229,7 +180,8 @@ TEST(AxesCombinationManager, RepresentationIsValidWithEitherOfItsYNames)
 
 TEST(AxesCombinationManager, AppendTakesRepeatedAndInvalidRecordsAndRecordsOfItsOwnList)
 {
-    Manager manager = managerOf({record({u"x"_s, u"c"_s}, {u"y"_s, u"c"_s}, Logarithmic), AxesCombination()});
+    Manager manager =
+        managerOf({record({u"x"_s, u"c"_s}, {u"y"_s, u"c"_s}, QCPAxis::stLogarithmic), AxesCombination()});
     for (int i = 0; i < 100; ++i) {
         manager.append(manager.getAxesCombinations().first());
         manager.append(manager.getAxesCombinations().at(1));
@@ -283,230 +235,6 @@ TEST(AxesCombinationManager, AssignmentToItselfChangesNothing)
     manager = same;
     EXPECT_EQ(described(manager.getAxesCombinations()), described(sampleManager().getAxesCombinations()));
     EXPECT_EQ(manager.getXAxesNames(), QStringList({u"Time"_s, u"Charge"_s}));
-}
-
-TEST(AxesCombinationManager, OfDuplicatesTheFirstStaysWithItsOwnScalesAndFlag)
-{
-    Manager manager = managerOf({
-        record({u"Time"_s, u"c"_s}, {u"Voltage"_s, u"c"_s}, Logarithmic, Linear, true),
-        record({u"Time"_s, u"c"_s}, {u"Charge"_s, u"c"_s}),
-        record({u"Time"_s, u"c"_s}, {u"Voltage"_s, u"c"_s}, Linear, Logarithmic, false),
-        record({u"Time"_s, u"c"_s}, {u"Charge"_s, u"c"_s}, Logarithmic),
-        record({u"Time"_s, u"c"_s}, {u"Voltage"_s, u"c"_s}),
-    });
-    EXPECT_EQ(described(manager.getAxesCombination(u"Time"_s, u"Voltage"_s)),
-              u"Time (c) / Voltage (c), logarithmic / linear, orthonormal"_s);
-    manager.removeDuplicates();
-    EXPECT_EQ(described(manager.getAxesCombinations()),
-              QStringList({
-                  u"Time (c) / Voltage (c), logarithmic / linear, orthonormal"_s,
-                  u"Time (c) / Charge (c), linear / linear"_s,
-              }));
-    EXPECT_EQ(described(manager.getAxesCombination(u"Time"_s, u"Voltage"_s)),
-              u"Time (c) / Voltage (c), logarithmic / linear, orthonormal"_s);
-}
-
-TEST(AxesCombinationManager, EqualNamesInOtherCategoriesOrOtherCaseAreNoDuplicates)
-{
-    Manager manager = managerOf({
-        record({u"Time"_s, u"b"_s}, {u"Voltage"_s, u"b"_s}),
-        record({u"Time"_s, u"a"_s}, {u"Voltage"_s, u"a"_s}),
-        record({u"TIME"_s, u"a"_s}, {u"Voltage"_s, u"a"_s}),
-    });
-    const QStringList before = described(manager.getAxesCombinations());
-    manager.removeDuplicates();
-    EXPECT_EQ(described(manager.getAxesCombinations()), before);
-    EXPECT_EQ(manager.getXAxesNames(), QStringList({u"Time"_s, u"TIME"_s}));
-    EXPECT_EQ(described(manager.getAxesCombination(u"Time"_s, u"Voltage"_s)),
-              u"Time (b) / Voltage (b), linear / linear"_s);
-}
-
-// Known and relied upon: duplicates are told by their text key, in which blanks separate.
-TEST(AxesCombinationManager, AnotherSplitOfTheSameWordsIsADuplicate)
-{
-    Manager manager = managerOf({
-        record({u"Step Time"_s, u"Cell"_s}, {u"y"_s, u"c"_s}),
-        record({u"Time"_s, u"Cell Step"_s}, {u"y"_s, u"c"_s}),
-        record({u"Time"_s, u"Cell Step"_s}, {u"y c"_s, u"c"_s}),
-        record({u"Time c"_s, u"Cell Step"_s}, {u"c"_s, u"y"_s}),
-    });
-    manager.removeDuplicates();
-    EXPECT_EQ(described(manager.getAxesCombinations()),
-              QStringList({
-                  u"Step Time (Cell) / y (c), linear / linear"_s,
-                  u"Time (Cell Step) / y c (c), linear / linear"_s,
-              }));
-    EXPECT_FALSE(manager.getAxesCombination(u"Time"_s, u"y"_s).isValid());
-}
-
-TEST(AxesCombinationManager, RemoveDuplicatesRemovesEveryInvalidRecord)
-{
-    Manager manager = managerOf({
-        AxesCombination(),
-        record({u"Time"_s, u"c"_s}, {u"Voltage"_s, u""_s}),
-        record({u"Time"_s, u"c"_s}, {u"Voltage"_s, u"c"_s}),
-        record({u""_s, u"Time c"_s}, {u"Voltage"_s, u"c"_s}),
-    });
-    manager.removeDuplicates();
-    EXPECT_EQ(described(manager.getAxesCombinations()), QStringList({u"Time (c) / Voltage (c), linear / linear"_s}));
-    manager.append(record({u"Time"_s, u"c"_s}, {u"Charge"_s, u"c"_s}));
-    EXPECT_EQ(manager.getYAxesNames(u"Time"_s), QStringList({u"Voltage"_s, u"Charge"_s}));
-}
-
-TEST(AxesCombinationManager, RemoveDuplicatesLeavesCopiesAlone)
-{
-    Manager manager = sampleManager();
-    const Manager copy(manager);
-    const QList<AxesCombination> list = manager.getAxesCombinations();
-    manager.append(list.at(1));
-    manager.removeDuplicates();
-    EXPECT_EQ(manager.getAxesCombinations().size(), 4);
-    EXPECT_EQ(copy.getAxesCombinations().size(), 5);
-    EXPECT_EQ(list.size(), 5);
-}
-
-TEST(AxesCombinationManager, TwoStreamsGiveFourCombinations)
-{
-    FakeDataStream time(u"Time"_s, u"a"_s);
-    FakeDataStream voltage(u"Voltage"_s, u"b"_s);
-    EXPECT_EQ(fromStreams({&time, &voltage}, NoIndex),
-              QStringList({
-                  u"Time (a) / Time (a), linear / linear"_s,
-                  u"Time (a) / Voltage (b), linear / linear"_s,
-                  u"Voltage (b) / Time (a), linear / linear"_s,
-                  u"Voltage (b) / Voltage (b), linear / linear"_s,
-              }));
-    EXPECT_TRUE(fromStreams({}, NoIndex).isEmpty());
-    EXPECT_TRUE(fromStreams({}, 0).isEmpty());
-}
-
-TEST(AxesCombinationManager, StreamsAreAppendedWithoutAnyCheck)
-{
-    FakeDataStream time(u"Time"_s, u"Step"_s);
-    FakeDataStream nameless(u""_s, u"Step"_s);
-    Manager manager = sampleManager();
-    manager.addCombinationsFromStreams({&time, &time, &nameless}, NoIndex);
-    EXPECT_EQ(manager.getAxesCombinations().size(), 5 + 9);
-    EXPECT_EQ(described(manager.getAxesCombinations(u"Time"_s)).mid(3),
-              QStringList(4, u"Time (Step) / Time (Step), linear / linear"_s));
-    EXPECT_EQ(manager.getXAxesNames(), QStringList({u"Time"_s, u"Charge"_s}));
-    manager.removeDuplicates();
-    EXPECT_EQ(manager.getAxesCombinations().size(), 5);
-}
-
-TEST(AxesCombinationManager, WithoutAnIndexNoStreamIsAskedForOne)
-{
-    FakeDataStream empty(u"Time"_s, u"a"_s, 0, {});
-    FakeDataStream full(u"Voltage"_s, u"a"_s, 3, {0, 1, 2});
-    EXPECT_EQ(fromStreams({&empty, &full}, NoIndex).size(), 4);
-    EXPECT_EQ(empty.indexTests(), 0);
-    EXPECT_EQ(full.indexTests(), 0);
-}
-
-TEST(AxesCombinationManager, StreamThatRefusesTheIndexTakesNoPart)
-{
-    FakeDataStream with(u"Time"_s, u"a"_s, 3, {1});
-    FakeDataStream without(u"Voltage"_s, u"a"_s, 3, {0, 2});
-    EXPECT_EQ(fromStreams({&without, &with}, 1), QStringList({u"Time (a) / Time (a), linear / linear"_s}));
-}
-
-TEST(AxesCombinationManager, StreamWhoseCountIsNotAboveTheIndexServesAsYOnly)
-{
-    FakeDataStream shortStream(u"Time"_s, u"a"_s, 2, {2});
-    FakeDataStream longStream(u"Voltage"_s, u"a"_s, 3, {2});
-    EXPECT_EQ(fromStreams({&shortStream, &longStream}, 2),
-              QStringList({
-                  u"Voltage (a) / Time (a), linear / linear"_s,
-                  u"Voltage (a) / Voltage (a), linear / linear"_s,
-              }));
-}
-
-TEST(AxesCombinationManager, CountIsComparedAsASignedNumber)
-{
-    FakeDataStream negative(u"Time"_s, u"a"_s, -1, {-2});
-    FakeDataStream empty(u"Voltage"_s, u"a"_s, 0, {-2});
-    EXPECT_EQ(fromStreams({&negative, &empty}, NoIndex),
-              QStringList({
-                  u"Voltage (a) / Time (a), linear / linear"_s,
-                  u"Voltage (a) / Voltage (a), linear / linear"_s,
-              }));
-    // Only −1 means no index: every other number is put to the streams.
-    EXPECT_EQ(fromStreams({&negative, &empty}, -2).size(), 4);
-    EXPECT_EQ(fromStreams({&negative, &empty}, -3).size(), 0);
-}
-
-TEST(AxesCombinationManager, WritesTheIdentitiesOfEveryRecordInOrder)
-{
-    const Manager manager = managerOf({
-        record({u"Time"_s, u"a"_s}, {u"Voltage"_s, u"b"_s}, Logarithmic, Logarithmic, true),
-        AxesCombination(),
-    });
-    EXPECT_EQ(written(manager), jsonObject(R"({"axesCombinations": [
-        {
-            "axesCombinationFirst": {"name": "Time", "category": "a"},
-            "axesCombinationSecond": {"name": "Voltage", "category": "b"}
-        },
-        {
-            "axesCombinationFirst": {"name": "", "category": ""},
-            "axesCombinationSecond": {"name": "", "category": ""}
-        }
-    ]})"));
-    EXPECT_EQ(written(Manager()), jsonObject(R"({"axesCombinations": []})"));
-    EXPECT_EQ(written(Manager(), jsonObject(R"({"axesCombinations": 1, "other": 2})")),
-              jsonObject(R"({"axesCombinations": [], "other": 2})"));
-}
-
-TEST(AxesCombinationManager, WriteThenReadKeepsIdentitiesAndOrderButNoScales)
-{
-    Manager manager = managerOf({record({u"gone"_s, u"c"_s}, {u"y"_s, u"c"_s})});
-    readInto(manager, written(sampleManager()));
-    EXPECT_EQ(described(manager.getAxesCombinations()),
-              QStringList({
-                  u"Time (Step) / Nothing (), linear / linear"_s,
-                  u"Time (Step) / Voltage (Step), linear / linear"_s,
-                  u"Time (Cycle) / Voltage (Cycle), linear / linear"_s,
-                  u"Charge (Cycle) / Time (Cycle), linear / linear"_s,
-                  u"Time (Cycle) / Charge (Cycle), linear / linear"_s,
-              }));
-    EXPECT_EQ(manager.getXAxesNames(), QStringList({u"Time"_s, u"Charge"_s}));
-    EXPECT_FALSE(manager.getAxesCombination(u"gone"_s, u"y"_s).isValid());
-}
-
-TEST(AxesCombinationManager, ReadAndWriteDoNotDependOnTheVersion)
-{
-    cl::archive::ArchiveContext context;
-    for (const int version : {-1, 0, 29, 1000}) {
-        QJsonObject object;
-        EXPECT_TRUE(sampleManager().write(object, version, context));
-        EXPECT_EQ(object, written(sampleManager()));
-        Manager manager;
-        EXPECT_TRUE(manager.read(object, version, context));
-        EXPECT_EQ(manager.getAxesCombinations(), sampleManager().getAxesCombinations());
-    }
-}
-
-TEST(AxesCombinationManager, ReadWithoutAListEmptiesTheManager)
-{
-    for (const QJsonValue& value : valuesOfOtherTypes(QJsonValue::Array)) {
-        QJsonObject object;
-        object.insert(u"axesCombinations"_s, value);
-        Manager manager = sampleManager();
-        readInto(manager, object);
-        EXPECT_TRUE(manager.getAxesCombinations().isEmpty());
-        EXPECT_TRUE(manager.getXAxesNames().isEmpty());
-    }
-}
-
-TEST(AxesCombinationManager, ReadStopsAtTheFirstRecordThatFails)
-{
-    const QJsonObject good = written(sampleManager()).value(u"axesCombinations"_s).toArray().at(1).toObject();
-    const QJsonObject halfGood{{u"axesCombinationFirst"_s, good.value(u"axesCombinationFirst"_s)}};
-    for (const QJsonValue& bad : {QJsonValue(halfGood), QJsonValue(QJsonObject()), QJsonValue(3), QJsonValue()}) {
-        Manager manager = sampleManager();
-        readInto(manager, {{u"axesCombinations"_s, QJsonArray{good, good, bad, good}}});
-        EXPECT_EQ(described(manager.getAxesCombinations()),
-                  QStringList(2, u"Time (Step) / Voltage (Step), linear / linear"_s));
-    }
 }
 
 #if HAVE_VIRTUAL_SLOTS

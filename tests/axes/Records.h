@@ -1,6 +1,6 @@
 #pragma once
 
-#include <axes/AxesCombination.h>
+#include <axes/AxesCombinationManager.h>
 
 #include <QList>
 #include <QString>
@@ -39,4 +39,31 @@ inline QStringList described(const QList<AxesCombination>& combinations)
         texts.append(described(combination));
     }
     return texts;
+}
+
+inline AxesCombinationManager managerOf(const QList<AxesCombination>& records)
+{
+    AxesCombinationManager manager;
+    for (const AxesCombination& combination : records) {
+        manager.append(combination);
+    }
+    return manager;
+}
+
+/// Voltage and Charge over Time in two categories, Time over Charge, and an invalid record before all of them.
+inline AxesCombinationManager sampleManager()
+{
+    using Array = cl::datastorage::DataArrayIdentifier;
+    const QString step = QStringLiteral("Step");
+    const QString cycle = QStringLiteral("Cycle");
+    const QString time = QStringLiteral("Time");
+    const QString voltage = QStringLiteral("Voltage");
+    const QString charge = QStringLiteral("Charge");
+    return managerOf({
+        record(Array(time, step), Array(QStringLiteral("Nothing"), QString())),
+        record(Array(time, step), Array(voltage, step), QCPAxis::stLogarithmic, QCPAxis::stLinear),
+        record(Array(time, cycle), Array(voltage, cycle), QCPAxis::stLinear, QCPAxis::stLogarithmic, true),
+        record(Array(charge, cycle), Array(time, cycle)),
+        record(Array(time, cycle), Array(charge, cycle)),
+    });
 }

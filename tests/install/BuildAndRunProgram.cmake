@@ -1,0 +1,26 @@
+# Copies the project SOURCE_DIR to a directory outside the tree, builds it against the package in PREFIX and runs its
+# program.
+foreach(variable TMPDIR TEMP)
+    if(NOT temporary AND DEFINED ENV{${variable}})
+        cmake_path(CONVERT "$ENV{${variable}}" TO_CMAKE_PATH_LIST temporary)
+    endif()
+endforeach()
+if(NOT temporary)
+    set(temporary /tmp)
+endif()
+string(RANDOM LENGTH 12 name)
+set(directory ${temporary}/clconfigui-program-${name})
+cmake_path(GET SOURCE_DIR FILENAME project)
+file(COPY ${SOURCE_DIR} DESTINATION ${directory})
+
+execute_process(COMMAND ${CMAKE_COMMAND} -G ${GENERATOR} -C ${SETTINGS} -S ${directory}/${project} -B ${directory}/build
+    RESULT_VARIABLE result)
+if(result EQUAL 0)
+    execute_process(COMMAND ${CMAKE_COMMAND} --build ${directory}/build --config ${CONFIG} --target run
+        RESULT_VARIABLE result OUTPUT_VARIABLE output ECHO_OUTPUT_VARIABLE)
+endif()
+file(REMOVE_RECURSE ${directory})
+
+if(NOT result EQUAL 0 OR NOT output MATCHES "default scales: 0 0")
+    message(FATAL_ERROR "The program did not build, or did not print the default scales")
+endif()
