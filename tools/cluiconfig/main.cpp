@@ -34,6 +34,7 @@ int main(int argc, char* argv[])
     program.require_subcommand(1);
     program.set_version_flag("--version", "cluiconfig " CLCONFIGUI_VERSION ", UIConfig.json format version 29");
     cluiconfig::addShowCommand(program);
+    cluiconfig::addSearchCommand(program);
     try {
         program.parse(reversedArguments());
     } catch (const CLI::RuntimeError& error) {

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "Ascii.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#if defined(__SSE2__) || defined(_M_X64)
+#include <emmintrin.h>
+#define CLCONFIGUI_SEARCH_SSE2
+#endif
+
+/// \file Chunk.h
+/// Sixteen bytes of a text, looked at together. Each question is answered by 16 bits, the lowest for the first byte.
+/// The two classes are one and the same to their users; SSE2 belongs to every x86-64 processor.
+
+namespace search {
+
+inline constexpr std::size_t chunkSize = 16;
+
+class PortableChunk
+{
+public:
+    PortableChunk() = default;
+    /// REQUIRES: 16 bytes can be read at \p bytes.
+    explicit PortableChunk(const char* bytes) { std::memcpy(m_bytes.data(), bytes, chunkSize); }
+
+    PortableChunk inLowerCase() const
+    {
+        PortableChunk lower;
+        for (std::size_t i = 0; i < chunkSize; ++i) {
+            lower.m_bytes[i] = lowerCase[m_bytes[i]];
+        }
+        return lower;
+    }
+    unsigned equalTo(unsigned char byte) const
+    {
+        unsigned bits = 0;
+        for (std::size_t i = 0; i < chunkSize; ++i) {
+            bits |= (m_bytes[i] == byte ? 1U : 0U) << i;
+        }
+        return bits;
+    }
+    /// Where a word starts, if \p previous holds for every byte the one before it: after a word gap, and with an
+    /// upper-case letter after a lower-case one.
+    unsigned wordStarts(const PortableChunk& previous) const
+    {
+        unsigned bits = 0;
+        for (std::size_t i = 0; i < chunkSize; ++i) {
+            const unsigned char before = previous.m_bytes[i];
+            const bool isStart = isWordGap(before) || (isLower(before) && isUpper(m_bytes[i]));
+            bits |= (isStart ? 1U : 0U) << i;
+        }
+        return bits;
+    }
+
+private:
+    std::array<unsigned char, chunkSize> m_bytes;
+};
+
+#ifdef CLCONFIGUI_SEARCH_SSE2
+
+class Sse2Chunk
+{
+public:
+    Sse2Chunk() = default;
+    /// REQUIRES: 16 bytes can be read at \p bytes.
+    explicit Sse2Chunk(const char* bytes)
+        : m_bytes(_mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes)))
+    {
+    }
+
+    Sse2Chunk inLowerCase() const
+    {
+        Sse2Chunk lower;
+        lower.m_bytes = _mm_or_si128(m_bytes, _mm_and_si128(between('A', 'Z'), _mm_set1_epi8('a' - 'A')));
+        return lower;
+    }
+    unsigned equalTo(unsigned char byte) const { return bits(equal(static_cast<char>(byte))); }
+    unsigned wordStarts(const Sse2Chunk& previous) const
+    {
+        const __m128i afterGap = _mm_or_si128(previous.equal('_'), previous.equal(' '));
+        return bits(_mm_or_si128(afterGap, _mm_and_si128(previous.between('a', 'z'), between('A', 'Z'))));
+    }
+
+private:
+    static unsigned bits(__m128i flags) { return static_cast<unsigned>(_mm_movemask_epi8(flags)); }
+    __m128i equal(char byte) const { return _mm_cmpeq_epi8(m_bytes, _mm_set1_epi8(byte)); }
+    // The comparisons are signed: a byte above 127 is below every letter.
+    __m128i between(char first, char last) const
+    {
+        return _mm_and_si128(_mm_cmpgt_epi8(m_bytes, _mm_set1_epi8(static_cast<char>(first - 1))),
+                             _mm_cmplt_epi8(m_bytes, _mm_set1_epi8(static_cast<char>(last + 1))));
+    }
+
+    __m128i m_bytes;
+};
+
+using Chunk = Sse2Chunk;
+
+#else
+
+using Chunk = PortableChunk;
+
+#endif
+
+} // namespace search

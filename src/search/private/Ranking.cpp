@@ -1,0 +1,113 @@
+#include "Ranking.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <iterator>
+#include <utility>
+
+namespace search {
+
+namespace {
+
+constexpr unsigned digitBits = 11;
+constexpr std::size_t digitCount = std::size_t{1} << digitBits;
+
+/// Below this a sort by comparisons is done before the digits are counted.
+constexpr std::size_t fewMatches = 512;
+
+/// A digit of the distance to the best score, so that the best comes first.
+class Digit
+{
+public:
+    Digit(int best, unsigned shift)
+        : m_best(static_cast<std::uint32_t>(best))
+        , m_shift(shift)
+    {
+    }
+    std::size_t operator()(const FuzzyMatch& match) const
+    {
+        return ((m_best - static_cast<std::uint32_t>(match.score)) >> m_shift) % digitCount;
+    }
+
+private:
+    std::uint32_t m_best;
+    unsigned m_shift;
+};
+
+struct AsMatch
+{
+    using Type = FuzzyMatch;
+    static Type of(const FuzzyMatch& match) { return match; }
+};
+
+struct AsIndex
+{
+    using Type = std::size_t;
+    static Type of(const FuzzyMatch& match) { return match.index; }
+};
+
+/// The matches ordered by one digit, those with equal digits as they come from \p begin to \p end.
+template <class As, class Iterator>
+std::vector<typename As::Type> distribute(Iterator begin, Iterator end, Digit digit)
+{
+    std::array<std::size_t, digitCount> next{};
+    for (Iterator match = begin; match != end; ++match) {
+        ++next[digit(*match)];
+    }
+    std::size_t start = 0;
+    for (std::size_t& place : next) {
+        start += std::exchange(place, start);
+    }
+    std::vector<typename As::Type> ordered(start);
+    for (Iterator match = begin; match != end; ++match) {
+        ordered[next[digit(*match)]++] = As::of(*match);
+    }
+    return ordered;
+}
+
+template <class As>
+std::vector<typename As::Type> ordered(std::vector<FuzzyMatch> matches)
+{
+    if (matches.size() < fewMatches) {
+        std::sort(matches.begin(), matches.end(), [](const FuzzyMatch& left, const FuzzyMatch& right) {
+            return left.score != right.score ? left.score > right.score : left.index > right.index;
+        });
+        std::vector<typename As::Type> result;
+        result.reserve(matches.size());
+        std::transform(matches.begin(), matches.end(), std::back_inserter(result), As::of);
+        return result;
+    }
+
+    // Backwards the matches have the order that equal scores shall have, and every digit keeps it. Scores lie close
+    // together, so that there is hardly ever more than one digit.
+    const auto [worst, best] =
+        std::minmax_element(matches.begin(), matches.end(),
+                            [](const FuzzyMatch& left, const FuzzyMatch& right) { return left.score < right.score; });
+    const int top = best->score;
+    std::uint32_t distance = static_cast<std::uint32_t>(top) - static_cast<std::uint32_t>(worst->score);
+    if (distance < digitCount) {
+        return distribute<As>(matches.rbegin(), matches.rend(), Digit(top, 0));
+    }
+    matches = distribute<AsMatch>(matches.rbegin(), matches.rend(), Digit(top, 0));
+    distance >>= digitBits;
+    unsigned shift = digitBits;
+    for (; distance >= digitCount; distance >>= digitBits, shift += digitBits) {
+        matches = distribute<AsMatch>(matches.begin(), matches.end(), Digit(top, shift));
+    }
+    return distribute<As>(matches.begin(), matches.end(), Digit(top, shift));
+}
+
+} // namespace
+
+std::vector<FuzzyMatch> bestFirst(std::vector<FuzzyMatch> matches)
+{
+    return ordered<AsMatch>(std::move(matches));
+}
+
+std::vector<std::size_t> indicesBestFirst(std::vector<FuzzyMatch> matches)
+{
+    return ordered<AsIndex>(std::move(matches));
+}
+
+} // namespace search

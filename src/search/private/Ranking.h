@@ -1,0 +1,44 @@
+#pragma once
+
+#include "RareLetter.h"
+#include "SubsequenceFilter.h"
+
+#include <search/FuzzyMatch.h>
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace search {
+
+/// The matches among \p candidates, a range of texts, by ascending index. \p scorer.score(text) gives the score of a
+/// text or nothing; it is asked about few texts that lack \p query.
+template <class Scorer, class Texts>
+std::vector<FuzzyMatch> findMatches(std::string_view query, const Texts& candidates, const Scorer& scorer)
+{
+    const RareLetter rare(query, candidates);
+    const SubsequenceFilter filter(query);
+    std::vector<FuzzyMatch> matches;
+    matches.reserve(candidates.size()); // memory that is not written to costs next to nothing
+    std::size_t index = 0;
+    for (std::string_view text : candidates) {
+        // Where most candidates match the filter would be a second reading for nothing: the scorer rejects as well.
+        const bool filtering = 2 * matches.size() <= index;
+        if (!rare.isMissingIn(text) && (!filtering || filter.mayContain(text))) {
+            if (const std::optional<int> score = scorer.score(text)) {
+                matches.push_back({index, *score});
+            }
+        }
+        ++index;
+    }
+    return matches;
+}
+
+/// The matches by descending score, and by descending index among equal scores.
+/// REQUIRES: \p matches come by ascending index.
+std::vector<FuzzyMatch> bestFirst(std::vector<FuzzyMatch> matches);
+
+/// The indices of the matches in that order.
+std::vector<std::size_t> indicesBestFirst(std::vector<FuzzyMatch> matches);
+
+} // namespace search

@@ -1,0 +1,101 @@
+#include <search/FtsStrategy.h>
+#include <search/FuzzyFinder.h>
+#include <search/TechniqueSearchStrategy.h>
+
+#include <gmock/gmock.h>
+
+#include <limits>
+#include <type_traits>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+/// Finds every candidate, in the order of the list.
+class EverythingStrategy : public AFuzzyFinderStrategy
+{
+public:
+    explicit EverythingStrategy(bool* destroyed = nullptr)
+        : m_destroyed(destroyed)
+    {
+    }
+    EverythingStrategy(const EverythingStrategy&) = delete;
+    EverythingStrategy& operator=(const EverythingStrategy&) = delete;
+    ~EverythingStrategy() override
+    {
+        if (m_destroyed != nullptr) {
+            *m_destroyed = true;
+        }
+    }
+    std::vector<std::size_t> applyAlgorithm(const std::string& /*query*/,
+                                            const std::vector<std::string>& candidates) const override
+    {
+        std::vector<std::size_t> indices;
+        for (std::size_t i = 0; i < candidates.size(); ++i) {
+            indices.push_back(i);
+        }
+        return indices;
+    }
+
+private:
+    bool* m_destroyed;
+};
+
+std::vector<std::size_t> firstOf(int maxResults)
+{
+    return FuzzyFinder::search("", {"a", "b", "c"}, maxResults, std::make_unique<EverythingStrategy>());
+}
+
+static_assert(std::is_copy_assignable_v<FuzzyFinder> && std::is_move_assignable_v<FuzzyFinder>);
+static_assert(std::is_empty_v<FuzzyFinder>);
+static_assert(std::is_abstract_v<AFuzzyFinderStrategy> && std::has_virtual_destructor_v<AFuzzyFinderStrategy>);
+
+TEST(FuzzyFinder, KeepsTheFirstMaxResults)
+{
+    EXPECT_THAT(firstOf(1), ElementsAre(0));
+    EXPECT_THAT(firstOf(2), ElementsAre(0, 1));
+    EXPECT_THAT(firstOf(3), ElementsAre(0, 1, 2));
+}
+
+TEST(FuzzyFinder, ZeroKeepsNothing)
+{
+    EXPECT_THAT(firstOf(0), IsEmpty());
+}
+
+TEST(FuzzyFinder, MoreThanThereAreKeepsEverything)
+{
+    EXPECT_THAT(firstOf(4), ElementsAre(0, 1, 2));
+    EXPECT_THAT(firstOf(std::numeric_limits<int>::max()), ElementsAre(0, 1, 2));
+}
+
+TEST(FuzzyFinder, NegativeMaxResultsKeepsEverything)
+{
+    EXPECT_THAT(firstOf(-1), ElementsAre(0, 1, 2));
+    EXPECT_THAT(firstOf(std::numeric_limits<int>::min()), ElementsAre(0, 1, 2));
+}
+
+TEST(FuzzyFinder, DestroysTheStrategy)
+{
+    bool destroyed = false;
+    FuzzyFinder::search("", {}, 1, std::make_unique<EverythingStrategy>(&destroyed));
+    EXPECT_TRUE(destroyed);
+}
+
+TEST(FuzzyFinder, RanksWithTheStrategyItIsGiven)
+{
+    // The text strategy prefers the word start, the technique strategy the run.
+    const std::vector<std::string> candidates = {"xxxx_ax_b", "xxxxxabxx"};
+    EXPECT_THAT(FuzzyFinder::search("ab", candidates, -1, std::make_unique<FtsStrategy>()), ElementsAre(0, 1));
+    EXPECT_THAT(FuzzyFinder::search("ab", candidates, 1, std::make_unique<FtsStrategy>()), ElementsAre(0));
+    EXPECT_THAT(FuzzyFinder::search("ab", {"xa_xxb", "xxabxx"}, -1, std::make_unique<TechniqueSearchStrategy>()),
+                ElementsAre(1, 0));
+}
+
+TEST(FuzzyFinder, EmptyListGivesNothing)
+{
+    EXPECT_THAT(FuzzyFinder::search("a", {}, 10, std::make_unique<FtsStrategy>()), IsEmpty());
+    EXPECT_THAT(FuzzyFinder::search("", {}, 10, std::make_unique<TechniqueSearchStrategy>()), IsEmpty());
+}
+
+} // namespace

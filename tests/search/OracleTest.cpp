@@ -1,0 +1,244 @@
+#include "GeneratedTexts.h"
+#include "LiteralSearch.h"
+
+#include <search/FtsStrategy.h>
+#include <search/FuzzyFinder.h>
+#include <search/TechniqueSearchStrategy.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+// The library against the literal version of both procedures, on generated texts. One case is one query with one
+// candidate, scored by both strategies; every list of candidates is also ranked and cut by both.
+// CLCONFIGUI_SEARCH_CASES says how many cases to run, from the same seed every time.
+
+namespace {
+
+constexpr std::size_t casesInEveryRun = 20'000;
+constexpr std::size_t longestTechniqueQuery = 12; // the literal version takes 2 to the power of it
+constexpr std::uint64_t seed = 20240607;
+
+std::size_t casesToRun()
+{
+    const char* wanted = std::getenv("CLCONFIGUI_SEARCH_CASES"); // NOLINT(concurrency-mt-unsafe): nobody sets it
+    return wanted != nullptr ? std::strtoull(wanted, nullptr, 10) : casesInEveryRun;
+}
+
+std::string readable(const std::string& text)
+{
+    std::string result;
+    for (const char c : text) {
+        std::array<char, 5> escaped{};
+        std::snprintf(escaped.data(), escaped.size(), "\\x%02x", static_cast<unsigned>(static_cast<unsigned char>(c)));
+        result += c >= ' ' && c <= '~' ? std::string(1, c) : std::string(escaped.data());
+    }
+    return result;
+}
+
+/// Counts cases and differences, and shows the first few of them.
+class Comparison
+{
+public:
+    explicit Comparison(const char* name)
+        : m_name(name)
+    {
+    }
+    Comparison(const Comparison&) = delete;
+    Comparison& operator=(const Comparison&) = delete;
+    ~Comparison()
+    {
+        std::printf("%s: %zu cases, %zu differences\n", m_name, m_cases, m_differences);
+        EXPECT_EQ(m_differences, 0U);
+    }
+
+    void addCases(std::size_t count) { m_cases += count; }
+    std::size_t cases() const { return m_cases; }
+
+    template <class Value>
+    void expectEqual(const Value& literal, const Value& ours, const char* what, const std::string& query,
+                     const std::string& candidate)
+    {
+        if (literal == ours) {
+            return;
+        }
+        if (++m_differences <= 5) {
+            ADD_FAILURE() << what << " of query '" << readable(query) << "' in '" << readable(candidate)
+                          << "': " << testing::PrintToString(ours) << ", should be " << testing::PrintToString(literal);
+        }
+    }
+
+private:
+    const char* m_name;
+    std::size_t m_cases = 0;
+    std::size_t m_differences = 0;
+};
+
+/// The score of each candidate, nothing for those that do not match.
+std::vector<std::optional<int>> scores(const std::vector<FuzzyMatch>& matches, std::size_t count)
+{
+    std::vector<std::optional<int>> result(count);
+    for (const FuzzyMatch& match : matches) {
+        result[match.index] = match.score;
+    }
+    return result;
+}
+
+std::vector<std::size_t> cut(std::vector<std::size_t> indices, int maxResults)
+{
+    if (maxResults >= 0 && static_cast<std::size_t>(maxResults) < indices.size()) {
+        indices.resize(static_cast<std::size_t>(maxResults));
+    }
+    return indices;
+}
+
+void compareText(Comparison& comparison, const std::string& query, const std::vector<std::string>& candidates,
+                 int maxResults)
+{
+    const std::vector<std::string_view> views(candidates.begin(), candidates.end());
+    const auto ours = scores(FtsStrategy::rank(query, views), candidates.size());
+    std::vector<std::optional<int>> theirs;
+    for (std::size_t i = 0; i < candidates.size(); ++i) {
+        theirs.push_back(literal::textScore(query, candidates[i]));
+        comparison.expectEqual(theirs[i], ours[i], "text score", query, candidates[i]);
+    }
+    comparison.expectEqual(cut(literal::ranking(theirs), maxResults),
+                           FuzzyFinder::search(query, candidates, maxResults, std::make_unique<FtsStrategy>()),
+                           "text order", query, "(list)");
+}
+
+void compareTechniques(Comparison& comparison, const std::string& query, const std::vector<std::string>& candidates,
+                       int maxResults)
+{
+    const std::vector<std::string_view> views(candidates.begin(), candidates.end());
+    const auto ours = scores(TechniqueSearchStrategy::rank(query, views), candidates.size());
+    std::vector<std::optional<int>> theirs;
+    for (std::size_t i = 0; i < candidates.size(); ++i) {
+        theirs.push_back(literal::techniqueScore(query, candidates[i]));
+        comparison.expectEqual(theirs[i], ours[i], "technique score in a list", query, candidates[i]);
+        comparison.expectEqual(theirs[i], TechniqueSearchStrategy::fuzzyMatchIterativeTechnique(query, candidates[i]),
+                               "technique score", query, candidates[i]);
+    }
+    comparison.expectEqual(
+        cut(literal::ranking(theirs), maxResults),
+        FuzzyFinder::search(query, candidates, maxResults, std::make_unique<TechniqueSearchStrategy>()),
+        "technique order", query, "(list)");
+}
+
+std::vector<std::string> candidatesFor(GeneratedTexts& texts, const std::string& query, std::size_t count)
+{
+    std::vector<std::string> candidates;
+    while (candidates.size() < count) {
+        candidates.push_back(texts.candidate(query));
+    }
+    return candidates;
+}
+
+TEST(SearchOracle, GeneratedListsHaveTheLiteralScoresOrderAndCut)
+{
+    Comparison comparison("literal comparison");
+    GeneratedTexts texts(seed);
+    while (comparison.cases() < casesToRun()) {
+        const std::string query = texts.query(longestTechniqueQuery);
+        const auto candidates = candidatesFor(texts, query, texts.below(30));
+        const int maxResults = static_cast<int>(texts.below(35)) - 3;
+        compareText(comparison, query, candidates, maxResults);
+        compareTechniques(comparison, query, candidates, maxResults);
+        comparison.addCases(candidates.size());
+    }
+}
+
+TEST(SearchOracle, LongListsHaveTheLiteralScoresOrderAndCut)
+{
+    // Long enough for every way of sorting and of rejecting; short queries, for the literal version's sake.
+    Comparison comparison("literal comparison of long lists");
+    GeneratedTexts texts(seed + 1);
+    while (comparison.cases() < casesToRun() / 4) {
+        const std::string query = texts.query(5);
+        const auto candidates = candidatesFor(texts, query, 1000 + texts.below(1000));
+        const int maxResults = static_cast<int>(texts.below(2500)) - 300;
+        compareText(comparison, query, candidates, maxResults);
+        compareTechniques(comparison, query, candidates, maxResults);
+        comparison.addCases(candidates.size());
+    }
+}
+
+TEST(SearchOracle, LongTextQueriesHaveTheLiteralScores)
+{
+    // Queries of more letters than the literal version of the technique search can take, up to more than it may match.
+    Comparison comparison("literal comparison of long text queries");
+    GeneratedTexts texts(seed + 2);
+    while (comparison.cases() < casesToRun() / 10) {
+        const std::string query = texts.query(texts.below(4) == 0 ? 270 : 60);
+        const auto candidates = candidatesFor(texts, query, 10);
+        compareText(comparison, query, candidates, -1);
+        comparison.addCases(candidates.size());
+    }
+}
+
+TEST(SearchOracle, TechniqueExplorationKnowsOnePathForEveryPlaceOfTheQuery)
+{
+    // What the library's version rests on: the greedy path, and for each k that path with its first k positions zero.
+    GeneratedTexts texts(seed + 3);
+    std::size_t matching = 0;
+    for (int i = 0; i < 2000; ++i) {
+        const std::string query = texts.query(8);
+        const std::string candidate = texts.candidate(query);
+        auto paths = literal::techniquePaths(query, candidate);
+        if (paths.empty()) {
+            continue;
+        }
+        ++matching;
+        std::vector<std::vector<std::size_t>> expected = {paths.front()};
+        for (std::size_t k = 0; k < query.size(); ++k) {
+            expected.push_back(expected.back());
+            expected.back()[k] = 0;
+        }
+        for (auto* list : {&paths, &expected}) {
+            std::sort(list->begin(), list->end());
+            list->erase(std::unique(list->begin(), list->end()), list->end());
+        }
+        ASSERT_EQ(paths, expected) << readable(query) << " in " << readable(candidate);
+    }
+    EXPECT_GT(matching, 500U);
+}
+
+TEST(SearchOracle, LongTechniqueQueriesHaveTheBestOfThosePaths)
+{
+    GeneratedTexts texts(seed + 4);
+    std::size_t matching = 0;
+    for (int i = 0; i < 2000; ++i) {
+        const std::string query = texts.query(i % 50 == 0 ? 400 : 80);
+        const std::string candidate = texts.candidate(query);
+        const auto ours = TechniqueSearchStrategy::fuzzyMatchIterativeTechnique(query, candidate);
+        const std::array<std::string_view, 1> list = {candidate};
+        const auto ranked = TechniqueSearchStrategy::rank(query, list);
+        ASSERT_EQ(ours, scores(ranked, 1)[0]);
+
+        std::vector<std::size_t> path;
+        for (std::size_t at = 0; at < candidate.size() && path.size() < query.size(); ++at) {
+            if (literal::techniqueScore(query.substr(path.size(), 1), candidate.substr(at, 1))) {
+                path.push_back(at);
+            }
+        }
+        if (path.size() < query.size()) {
+            ASSERT_EQ(ours, std::nullopt);
+            continue;
+        }
+        ++matching;
+        int best = literal::techniquePathScore(candidate, path, query);
+        for (std::size_t& position : path) {
+            position = 0;
+            best = std::max(best, literal::techniquePathScore(candidate, path, query));
+        }
+        ASSERT_EQ(ours, best) << readable(query) << " in " << readable(candidate);
+    }
+    EXPECT_GT(matching, 500U);
+}
+
+} // namespace

@@ -1,0 +1,82 @@
+#include "GeneratedTexts.h"
+
+#include <search/FtsStrategy.h>
+#include <search/FuzzyFinder.h>
+#include <search/TechniqueSearchStrategy.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <thread>
+#include <vector>
+
+// Search boxes search from worker threads. Built with the thread sanitizer (preset tsan) these tests also prove that
+// nothing is shared.
+
+namespace {
+
+using Ranking = std::vector<std::size_t>;
+
+class ThreadedSearch : public testing::Test
+{
+protected:
+    ThreadedSearch()
+    {
+        GeneratedTexts texts(1);
+        const std::string common = texts.query(8);
+        for (int i = 0; i < 3000; ++i) {
+            m_candidates.push_back(texts.candidate(common));
+        }
+        for (std::size_t length = 0; length <= common.size(); ++length) {
+            m_queries.push_back(common.substr(0, length));
+        }
+    }
+
+    /// Ranks for every query in each of \p threadCount threads at once, and checks that all find what one alone finds.
+    template <class Rank>
+    void expectSameInEveryThread(Rank rank)
+    {
+        std::vector<Ranking> alone;
+        for (const std::string& query : m_queries) {
+            alone.push_back(rank(query));
+        }
+        std::vector<std::vector<Ranking>> found(8);
+        std::vector<std::thread> threads;
+        for (std::vector<Ranking>& mine : found) {
+            threads.emplace_back([&] {
+                for (const std::string& query : m_queries) {
+                    mine.push_back(rank(query));
+                }
+            });
+        }
+        for (std::thread& thread : threads) {
+            thread.join();
+        }
+        for (const std::vector<Ranking>& rankings : found) {
+            EXPECT_EQ(rankings, alone);
+        }
+    }
+
+    std::vector<std::string> m_candidates;
+    std::vector<std::string> m_queries;
+};
+
+TEST_F(ThreadedSearch, FinderGivesEveryThreadTheSameResults)
+{
+    expectSameInEveryThread([this](const std::string& query) {
+        return FuzzyFinder::search(query, m_candidates, 100, std::make_unique<FtsStrategy>());
+    });
+    expectSameInEveryThread([this](const std::string& query) {
+        return FuzzyFinder::search(query, m_candidates, 100, std::make_unique<TechniqueSearchStrategy>());
+    });
+}
+
+TEST_F(ThreadedSearch, OneStrategyServesAllThreads)
+{
+    const FtsStrategy text;
+    expectSameInEveryThread([&](const std::string& query) { return text.applyAlgorithm(query, m_candidates); });
+    const TechniqueSearchStrategy technique;
+    expectSameInEveryThread([&](const std::string& query) { return technique.applyAlgorithm(query, m_candidates); });
+}
+
+} // namespace

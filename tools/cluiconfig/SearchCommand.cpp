@@ -1,0 +1,239 @@
+#include "Commands.h"
+
+#include <search/FtsStrategy.h>
+#include <search/TechniqueSearchStrategy.h>
+
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#else
+#include <csignal>
+#include <unistd.h>
+#endif
+
+namespace cluiconfig {
+
+namespace {
+
+constexpr auto TechniqueList = ":/cluiconfig/techniques.txt";
+constexpr auto TechniqueStrategy = "technique";
+constexpr auto TextStrategy = "text";
+
+struct SearchOptions
+{
+    std::string query;
+    std::string file;
+    std::string strategy = TechniqueStrategy;
+    int maxResults = -1;
+    bool scores = false;
+};
+
+bool isTerminal(std::FILE* file)
+{
+#ifdef _WIN32
+    return _isatty(_fileno(file)) != 0;
+#else
+    return isatty(fileno(file)) != 0;
+#endif
+}
+
+/// Bytes are bytes: no translation of line ends, and a reader that goes away is an error of writing, not a signal.
+void useBytes()
+{
+#ifdef _WIN32
+    _setmode(_fileno(stdin), _O_BINARY);
+    _setmode(_fileno(stdout), _O_BINARY);
+#else
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
+}
+
+[[noreturn]] void fail(const std::string& what, const std::string& why)
+{
+    std::fprintf(stderr, "%s: %s\n", what.c_str(), why.c_str());
+    throw CLI::RuntimeError(ExitCannotRun);
+}
+
+/// The input as one piece of memory that is only as large as it needs to be and is not cleared before it is read into.
+struct Input
+{
+    std::unique_ptr<char, decltype(&std::free)> bytes{nullptr, &std::free};
+    std::size_t size = 0;
+
+    std::string_view text() const { return {bytes.get(), size}; }
+};
+
+/// \p name is for the message when reading fails.
+Input readAll(std::FILE* file, const std::string& name)
+{
+    Input input;
+    std::size_t capacity = 0;
+    for (;;) {
+        if (input.size == capacity) {
+            capacity = std::max<std::size_t>(std::size_t{1} << 20, 2 * capacity);
+            auto* larger = static_cast<char*>(std::realloc(input.bytes.get(), capacity));
+            if (larger == nullptr) {
+                fail(name, "too large for the memory");
+            }
+            static_cast<void>(input.bytes.release());
+            input.bytes.reset(larger);
+        }
+        const std::size_t count = std::fread(input.bytes.get() + input.size, 1, capacity - input.size, file);
+        input.size += count;
+        if (count == 0) {
+            break;
+        }
+    }
+    if (std::ferror(file) != 0) {
+        fail(name, std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): the program has one thread
+    }
+    return input;
+}
+
+Input readFile(const std::string& name)
+{
+#ifdef _WIN32
+    const std::unique_ptr<std::FILE, decltype(&std::fclose)> file(
+        _wfopen(QString::fromStdString(name).toStdWString().c_str(), L"rb"), &std::fclose);
+#else
+    const std::unique_ptr<std::FILE, decltype(&std::fclose)> file(std::fopen(name.c_str(), "rb"), &std::fclose);
+#endif
+    if (!file) {
+        fail(name, std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): the program has one thread
+    }
+    std::setvbuf(file.get(), nullptr, _IONBF, 0);
+    return readAll(file.get(), name);
+}
+
+/// A line ends with a line feed, which a carriage return may precede; the last one may lack it.
+std::vector<std::string_view> splitLines(std::string_view text)
+{
+    std::vector<std::string_view> lines;
+    lines.reserve(text.size() / 32);
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        std::string_view line = text.substr(0, end);
+        if (end < text.size() && !line.empty() && line.back() == '\r') {
+            line.remove_suffix(1);
+        }
+        lines.push_back(line);
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+/// Collects the output in large pieces. Once the reader has gone away nothing more is written.
+class Output
+{
+public:
+    void add(std::string_view bytes)
+    {
+        if (m_buffer.size() + bytes.size() > capacity) {
+            flush();
+        }
+        m_buffer.append(bytes);
+    }
+    void add(int number)
+    {
+        std::array<char, 12> digits{};
+        const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+        add(std::string_view(digits.data(), static_cast<std::size_t>(result.ptr - digits.data())));
+    }
+    bool isBroken() const { return m_isBroken; }
+    bool flush()
+    {
+        m_isBroken = m_isBroken || std::fwrite(m_buffer.data(), 1, m_buffer.size(), stdout) != m_buffer.size()
+            || std::fflush(stdout) != 0;
+        m_buffer.clear();
+        return !m_isBroken;
+    }
+
+private:
+    static constexpr std::size_t capacity = std::size_t{1} << 18;
+
+    std::string m_buffer;
+    bool m_isBroken = false;
+};
+
+void print(const std::vector<FuzzyMatch>& matches, const std::vector<std::string_view>& lines,
+           const SearchOptions& options)
+{
+    std::size_t count = matches.size();
+    if (options.maxResults >= 0) {
+        count = std::min(count, static_cast<std::size_t>(options.maxResults));
+    }
+    Output output;
+    for (std::size_t i = 0; i < count && !output.isBroken(); ++i) {
+        if (options.scores) {
+            output.add(matches[i].score);
+            output.add("\t");
+        }
+        output.add(lines[matches[i].index]);
+        output.add("\n");
+    }
+    const bool written = output.flush();
+    if (!written && errno != EPIPE) {
+        fail("standard output", std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): the program has one thread
+    }
+}
+
+void search(const SearchOptions& options)
+{
+    useBytes();
+    Input input;
+    QByteArray shipped;
+    std::string_view text;
+    if (!options.file.empty()) {
+        input = readFile(options.file);
+        text = input.text();
+    } else if (isTerminal(stdin)) {
+        QFile list(QString::fromLatin1(TechniqueList));
+        if (!list.open(QIODevice::ReadOnly)) {
+            fail(TechniqueList, list.errorString().toStdString());
+        }
+        shipped = list.readAll();
+        text = std::string_view(shipped.constData(), static_cast<std::size_t>(shipped.size()));
+    } else {
+        input = readAll(stdin, "standard input");
+        text = input.text();
+    }
+    const std::vector<std::string_view> lines = splitLines(text);
+    print(options.strategy == TextStrategy ? FtsStrategy::rank(options.query, lines)
+                                           : TechniqueSearchStrategy::rank(options.query, lines),
+          lines, options);
+}
+
+} // namespace
+
+void addSearchCommand(CLI::App& program)
+{
+    const auto options = std::make_shared<SearchOptions>();
+    CLI::App* command = program.add_subcommand("search",
+                                               "Prints the lines that match a query, best first. Reads FILE, or "
+                                               "standard input; from a terminal, without FILE, it "
+                                               "searches a list of electrochemical techniques.");
+    command->add_option("query", options->query, "The letters to look for, in their order")->required();
+    command->add_option("file", options->file, "The file whose lines are searched");
+    command->add_option("--strategy", options->strategy, "How lines are scored")
+        ->check(CLI::IsMember({TechniqueStrategy, TextStrategy}))
+        ->capture_default_str();
+    command->add_option("--max", options->maxResults, "Print at most so many lines; negative for all");
+    command->add_flag("--scores", options->scores, "Print the score and a tab before each line");
+    command->callback([options] { search(*options); });
+}
+
+} // namespace cluiconfig
