@@ -1,0 +1,109 @@
+#!/usr/bin/env python3
+"""Runs `cluiconfig search` as people do: on files, in pipes, on a terminal. usage: search_test.py PROGRAM"""
+
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PROGRAM = ""
+
+
+def search(*arguments, stdin=b""):
+    return subprocess.run([PROGRAM, "search", *arguments], input=stdin, capture_output=True, timeout=60)
+
+
+class Search(unittest.TestCase):
+    def expect_output(self, output, *arguments, stdin=b""):
+        result = search(*arguments, stdin=stdin)
+        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, output, b""))
+
+    def test_best_line_comes_first_with_its_score(self):
+        self.expect_output(b"510\tOCV\n428\tocean view\n", "ocv", "--scores", stdin=b"OCV\nocean view\nCV\n")
+
+    def test_among_equal_lines_the_later_one_comes_first(self):
+        self.expect_output(b"b cv\na cv\n", "cv", stdin=b"a cv\nb cv\nx\n")
+
+    def test_text_strategy_scores_by_its_own_rule(self):
+        self.expect_output(b"139\txAb\n", "ab", "--strategy", "text", "--scores", stdin=b"xAb\n")
+
+    def test_max_cuts_the_list(self):
+        lines = b"1a\n2a\n3a\n"
+        self.expect_output(b"3a\n2a\n", "a", "--max", "2", stdin=lines)
+        self.expect_output(b"", "a", "--max", "0", stdin=lines)
+        self.expect_output(b"3a\n2a\n1a\n", "a", "--max", "9", stdin=lines)
+        self.expect_output(b"3a\n2a\n1a\n", "a", "--max=-1", stdin=lines)
+
+    def test_lines_end_with_line_feed_or_both_and_the_last_one_may_lack_it(self):
+        self.expect_output(b"c\n\nb\na\n", "", stdin=b"a\r\nb\n\r\nc")
+
+    def test_nul_and_bytes_that_are_no_text_pass_through(self):
+        self.expect_output(b"x\0\xff\xfey\n", "xy", stdin=b"x\0\xff\xfey\nz\n")
+
+    def test_line_of_thirty_million_bytes_is_a_line(self):
+        line = b"a" * 30_000_000 + b"\n"
+        self.expect_output(line, "aaa", stdin=line)
+
+    def test_empty_input_gives_empty_output(self):
+        self.expect_output(b"", "a")
+        self.expect_output(b"", "")
+
+    def test_file_is_read_instead_of_standard_input(self):
+        with tempfile.TemporaryDirectory() as directory:
+            path = pathlib.Path(directory) / "names \N{GREEK SMALL LETTER MU}.txt"
+            path.write_bytes(b"abc\nxyz\n")
+            self.expect_output(b"abc\n", "ab", str(path), stdin=b"abab\n")
+
+    def test_file_that_cannot_be_read_is_named_with_exit_code_2(self):
+        with tempfile.TemporaryDirectory() as directory:
+            for path in (os.path.join(directory, "missing.txt"), directory):
+                result = search("a", path)
+                self.assertEqual(result.returncode, 2)
+                self.assertEqual(result.stdout, b"")
+                self.assertIn(os.fsencode(path), result.stderr)
+
+    def test_unknown_strategy_is_refused_with_exit_code_2(self):
+        result = search("a", "--strategy", "guess")
+        self.assertEqual(result.returncode, 2)
+        self.assertIn(b"guess", result.stderr)
+
+    @unittest.skipUnless(os.name == "posix", "needs a POSIX pipe")
+    def test_reader_that_goes_away_is_no_error(self):
+        with tempfile.NamedTemporaryFile() as names:
+            names.write(b"cyclic voltammetry\n" * 200_000)
+            names.flush()
+            program = subprocess.Popen([PROGRAM, "search", "cv", names.name], stdout=subprocess.PIPE,
+                                       stderr=subprocess.PIPE)
+            self.assertEqual(program.stdout.readline(), b"cyclic voltammetry\n")
+            program.stdout.close()
+            self.assertEqual((program.wait(60), program.stderr.read()), (0, b""))
+            program.stderr.close()
+
+    @unittest.skipUnless(os.path.exists("/dev/full"), "needs /dev/full")
+    def test_output_that_cannot_be_written_is_an_error(self):
+        with open("/dev/full", "wb") as full:
+            result = subprocess.run([PROGRAM, "search", "a"], input=b"a\n", stdout=full, stderr=subprocess.PIPE)
+        self.assertEqual(result.returncode, 2)
+        self.assertIn(b"standard output", result.stderr)
+
+    @unittest.skipUnless(os.name == "posix", "needs a pseudo terminal")
+    def test_from_a_terminal_the_shipped_techniques_are_searched(self):
+        controller, terminal = os.openpty()
+        try:
+            result = subprocess.run([PROGRAM, "search", "open circuit volt", "--max", "1"], stdin=terminal, capture_output=True,
+                                    timeout=60)
+            everything = subprocess.run([PROGRAM, "search", ""], stdin=terminal, capture_output=True, timeout=60)
+        finally:
+            os.close(controller)
+            os.close(terminal)
+        self.assertEqual((result.returncode, result.stdout), (0, b"Open circuit voltage, OCV, rest potential\n"))
+        lines = everything.stdout.decode().splitlines()
+        self.assertGreaterEqual(len(lines), 80)
+        self.assertTrue(all(len(line.split(", ")) == 3 for line in lines))
+
+
+if __name__ == "__main__":
+    PROGRAM = sys.argv.pop(1)
+    unittest.main()
