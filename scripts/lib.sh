@@ -7,7 +7,9 @@ as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
-# need PACKAGE...: installs those of the distribution's packages that are missing.
+# need PACKAGE...: installs those of the distribution's packages that are missing. What is new is found when the next
+# preset is built.
+configure_again=
 need() {
     local missing=() package
     for package in "$@"; do
@@ -19,16 +21,18 @@ need() {
         echo "Installing ${missing[*]}" >&2
         as_root env DEBIAN_FRONTEND=noninteractive sh -c \
             'apt-get update -qq && apt-get install -y -qq --no-install-recommends "$@" >/dev/null' sh "${missing[@]}" >&2
+        configure_again=yes
     fi
 }
 
 need_to_build() {
-    need g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools libqcustomplot-dev libcli11-dev
+    need g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools libqcustomplot-dev libcli11-dev \
+        libgtest-dev libgmock-dev
 }
 
 need_to_test() {
     need_to_build
-    need libgtest-dev libgmock-dev
+    need clang-format clang-tidy python3
 }
 
 # build PRESET [TARGET...]: configures the preset if it is not, and builds it; what went wrong is shown, and only that.
@@ -37,7 +41,7 @@ build() {
     shift
     log=$(mktemp)
     if ! {
-        { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
+        { [ -z "$configure_again" ] && [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
             cmake --build "build/$preset" ${1:+--target "$@"}
     } >"$log" 2>&1; then
         cat "$log" >&2
