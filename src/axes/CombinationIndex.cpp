@@ -7,9 +7,11 @@ namespace {
 
 constexpr size_t FirstSlots = 64;
 
-quint32 pairHash(qint32 group, const QString& y)
+/// Spreads the pairs of small numbers over \p places, a power of two.
+size_t spread(qint32 x, qint32 y, size_t places)
 {
-    return static_cast<quint32>(qHash(y, static_cast<size_t>(group)));
+    const quint64 pair = (static_cast<quint64>(static_cast<quint32>(x)) << 32) | static_cast<quint32>(y);
+    return static_cast<size_t>((pair * 0x9E3779B97F4A7C15U) >> 32) & (places - 1);
 }
 
 } // namespace
@@ -28,13 +30,17 @@ void CombinationIndex::add(const QString& x, const QString& y, qsizetype record)
     Group& group = m_groups[static_cast<size_t>(m_lastGroup)];
     group.records.append(record);
 
-    if (2 * (m_pairs + 1) > m_slots.size()) {
+    const qsizetype knownNames = m_yNumbers.size();
+    qint32& yNumber = m_yNumbers[y];
+    if (m_yNumbers.size() != knownNames) {
+        yNumber = static_cast<qint32>(knownNames);
+    }
+    if (4 * (m_pairs + 1) > 3 * m_slots.size()) {
         grow();
     }
-    const quint32 hash = pairHash(m_lastGroup, y);
-    Slot& slot = m_slots[slotOf(hash, m_lastGroup, y)];
-    if (slot.group == Slot::Free) {
-        slot = {hash, m_lastGroup, static_cast<qint32>(group.yNames.size()), static_cast<qint32>(record)};
+    Slot& slot = m_slots[slotOf(m_slots, m_lastGroup, yNumber)];
+    if (slot.x == Slot::Free) {
+        slot = {m_lastGroup, yNumber, static_cast<qint32>(record)};
         group.yNames.append(y);
         ++m_pairs;
     }
@@ -47,12 +53,13 @@ void CombinationIndex::clear()
 
 qsizetype CombinationIndex::find(const QString& x, const QString& y) const
 {
-    const qint32 group = groupOf(x);
-    if (group == Slot::Free) {
+    const qint32 xNumber = groupOf(x);
+    const qint32 yNumber = m_yNumbers.value(y, Slot::Free);
+    if (xNumber == Slot::Free || yNumber == Slot::Free) {
         return -1;
     }
-    const Slot& slot = m_slots[slotOf(pairHash(group, y), group, y)];
-    return slot.group == Slot::Free ? -1 : slot.record;
+    const Slot& slot = m_slots[slotOf(m_slots, xNumber, yNumber)];
+    return slot.x == Slot::Free ? -1 : slot.record;
 }
 
 QList<qsizetype> CombinationIndex::records(const QString& x) const
@@ -79,30 +86,21 @@ const CombinationIndex::Group* CombinationIndex::groupNamed(const QString& x) co
 }
 
 /// The place where the pair stands, or the free one where it belongs.
-size_t CombinationIndex::slotOf(quint32 hash, qint32 group, const QString& y) const
+size_t CombinationIndex::slotOf(const std::vector<Slot>& slotTable, qint32 x, qint32 y)
 {
-    const size_t mask = m_slots.size() - 1;
-    for (size_t place = hash & mask;; place = (place + 1) & mask) {
-        const Slot& slot = m_slots[place];
-        if (slot.group == Slot::Free
-            || (slot.hash == hash && slot.group == group
-                && m_groups[static_cast<size_t>(group)].yNames.at(slot.y) == y)) {
-            return place;
-        }
+    size_t place = spread(x, y, slotTable.size());
+    while (slotTable[place].x != Slot::Free && (slotTable[place].x != x || slotTable[place].y != y)) {
+        place = (place + 1) & (slotTable.size() - 1);
     }
+    return place;
 }
 
 void CombinationIndex::grow()
 {
     std::vector<Slot> grown(std::max(FirstSlots, 2 * m_slots.size()));
-    const size_t mask = grown.size() - 1;
     for (const Slot& slot : m_slots) {
-        if (slot.group != Slot::Free) {
-            size_t place = slot.hash & mask;
-            while (grown[place].group != Slot::Free) {
-                place = (place + 1) & mask;
-            }
-            grown[place] = slot;
+        if (slot.x != Slot::Free) {
+            grown[slotOf(grown, slot.x, slot.y)] = slot;
         }
     }
     m_slots = std::move(grown);

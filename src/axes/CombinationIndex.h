@@ -37,11 +37,11 @@ private:
         QList<QString> yNames;
     };
 
-    /// A place of the hash table of all pairs: which Y name of which group stands there, and the first record with it.
+    /// A place of the hash table of all pairs: an X and a Y name by their numbers, and the first record with them.
+    /// Small, and compared without touching a text, so that a lookup among many pairs waits for memory once.
     struct Slot
     {
-        quint32 hash = 0;
-        qint32 group = Free;
+        qint32 x = Free;
         qint32 y = 0;
         qint32 record = 0;
 
@@ -50,13 +50,14 @@ private:
 
     qint32 groupOf(const QString& x) const;
     const Group* groupNamed(const QString& x) const;
-    size_t slotOf(quint32 hash, qint32 group, const QString& y) const;
+    static size_t slotOf(const std::vector<Slot>& slotTable, qint32 x, qint32 y);
     void grow();
 
     QList<QString> m_xNames;
     std::vector<Group> m_groups; // of the X names, in their order
     QHash<QString, qint32> m_groupNumbers;
-    std::vector<Slot> m_slots; // open addressing; a power of two of them, at most half of them taken
+    QHash<QString, qint32> m_yNumbers;
+    std::vector<Slot> m_slots; // open addressing; a power of two of them, at most three quarters of them taken
     size_t m_pairs = 0;
     qint32 m_lastGroup = Slot::Free; // combinations of one X name come one after the other
 };
