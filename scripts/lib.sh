@@ -32,7 +32,7 @@ need_to_build() {
 
 need_to_test() {
     need_to_build
-    need clang-format clang-tidy python3
+    need clang-format python3
 }
 
 # build PRESET [TARGET...]: configures the preset if it is not, and builds it; what went wrong is shown, and only that.

@@ -1,0 +1,183 @@
+// The axes-combination manager at 10² to 10⁵ records: n records that pair √n X names with √n Y names.
+
+#include "AllocationCount.h"
+
+#include <axes/AxesCombinationManager.h>
+#include <config/ConfigRepresentation.h>
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <random>
+#include <vector>
+
+using cl::datastorage::DataArrayIdentifier;
+
+namespace {
+
+QString name(char16_t axis, int number)
+{
+    return QStringLiteral("%1 quantity number %2 / unit").arg(QChar(axis)).arg(number);
+}
+
+struct Names
+{
+    explicit Names(int records)
+        : count(static_cast<int>(std::lround(std::sqrt(records))))
+    {
+        for (int i = 0; i < count; ++i) {
+            x.append(name(u'X', i));
+            y.append(name(u'Y', i));
+        }
+    }
+
+    int count;
+    QList<QString> x;
+    QList<QString> y;
+};
+
+AxesCombinationManager filledManager(const Names& names)
+{
+    const QString category = QStringLiteral("Potentiostat measure");
+    AxesCombinationManager manager;
+    for (const QString& x : names.x) {
+        for (const QString& y : names.y) {
+            manager.append({DataArrayIdentifier(x, category), DataArrayIdentifier(y, category), QCPAxis::stLinear,
+                            QCPAxis::stLinear, false});
+        }
+    }
+    return manager;
+}
+
+/// Pairs of names in an order that the processor cannot foresee, as many as there are records: every record is asked
+/// for.
+std::vector<std::pair<QString, QString>> shuffledPairs(int records, bool known)
+{
+    // Texts of the caller's own, not those that the records share.
+    const Names own(records);
+    std::vector<std::pair<QString, QString>> pairs;
+    for (const QString& x : own.x) {
+        for (const QString& y : own.y) {
+            pairs.emplace_back(x, known ? y : x);
+        }
+    }
+    std::shuffle(pairs.begin(), pairs.end(), std::mt19937(4));
+    return pairs;
+}
+
+/// Runs \p query as the benchmark's body and reports, beside its time, how many allocations one call makes.
+template <typename Query>
+void measure(benchmark::State& state, Query query)
+{
+    const long long before = allocationCount();
+    query();
+    state.counters["allocations"] = static_cast<double>(allocationCount() - before);
+    for (auto _ : state) {
+        query();
+    }
+}
+
+template <bool Known>
+void getAxesCombination(benchmark::State& state)
+{
+    const int records = static_cast<int>(state.range(0));
+    const AxesCombinationManager manager = filledManager(Names(records));
+    const auto pairs = shuffledPairs(records, Known);
+    size_t next = 0;
+    measure(state, [&] {
+        const auto& [x, y] = pairs[next];
+        next = next + 1 == pairs.size() ? 0 : next + 1;
+        benchmark::DoNotOptimize(manager.getAxesCombination(x, y));
+    });
+}
+
+void isRepresentationValid(benchmark::State& state)
+{
+    const int records = static_cast<int>(state.range(0));
+    const AxesCombinationManager manager = filledManager(Names(records));
+    std::vector<ConfigRepresentation> representations;
+    for (const auto& [x, y] : shuffledPairs(records, true)) {
+        representations.emplace_back(QString(), x, y, y, QString(), false);
+    }
+    size_t next = 0;
+    measure(state, [&] {
+        benchmark::DoNotOptimize(manager.isRepresentationValid(&representations[next]));
+        next = next + 1 == representations.size() ? 0 : next + 1;
+    });
+}
+
+void getXAxesNames(benchmark::State& state)
+{
+    const AxesCombinationManager manager = filledManager(Names(static_cast<int>(state.range(0))));
+    measure(state, [&] { benchmark::DoNotOptimize(manager.getXAxesNames()); });
+}
+
+void getYAxesNames(benchmark::State& state)
+{
+    const Names names(static_cast<int>(state.range(0)));
+    const AxesCombinationManager manager = filledManager(names);
+    qsizetype next = 0;
+    measure(state, [&] {
+        benchmark::DoNotOptimize(manager.getYAxesNames(names.x.at(next)));
+        next = (next + 1) % names.count;
+    });
+}
+
+/// Every record twice: half of them go.
+void removeDuplicates(benchmark::State& state)
+{
+    const Names names(static_cast<int>(state.range(0)) / 2);
+    AxesCombinationManager doubled = filledManager(names);
+    const AxesCombinationManager again = doubled;
+    for (const AxesCombination& combination : again.getAxesCombinations()) {
+        doubled.append(combination);
+    }
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto manager = std::make_unique<AxesCombinationManager>(doubled);
+        state.ResumeTiming();
+        manager->removeDuplicates();
+        state.PauseTiming();
+        manager.reset();
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * doubled.getAxesCombinations().size());
+}
+
+void write(benchmark::State& state)
+{
+    const AxesCombinationManager manager = filledManager(Names(static_cast<int>(state.range(0))));
+    cl::archive::ArchiveContext context;
+    for (auto _ : state) {
+        QJsonObject object;
+        manager.write(object, 1, context);
+        benchmark::DoNotOptimize(object);
+    }
+    state.SetItemsProcessed(state.iterations() * manager.getAxesCombinations().size());
+}
+
+void read(benchmark::State& state)
+{
+    cl::archive::ArchiveContext context;
+    QJsonObject object;
+    filledManager(Names(static_cast<int>(state.range(0)))).write(object, 1, context);
+    AxesCombinationManager manager;
+    for (auto _ : state) {
+        manager.read(object, 1, context);
+    }
+    state.SetItemsProcessed(state.iterations() * manager.getAxesCombinations().size());
+}
+
+constexpr int Fewest = 100;
+constexpr int Most = 100'000;
+
+BENCHMARK(getAxesCombination<true>)->Name("getAxesCombination/hit")->RangeMultiplier(10)->Range(Fewest, Most);
+BENCHMARK(getAxesCombination<false>)->Name("getAxesCombination/miss")->RangeMultiplier(10)->Range(Fewest, Most);
+BENCHMARK(isRepresentationValid)->RangeMultiplier(10)->Range(Fewest, Most);
+BENCHMARK(getXAxesNames)->RangeMultiplier(10)->Range(Fewest, Most);
+BENCHMARK(getYAxesNames)->RangeMultiplier(10)->Range(Fewest, Most);
+BENCHMARK(removeDuplicates)->RangeMultiplier(10)->Range(Fewest, Most);
+BENCHMARK(write)->RangeMultiplier(10)->Range(Fewest, Most);
+BENCHMARK(read)->RangeMultiplier(10)->Range(Fewest, Most);
+
+} // namespace

@@ -1,0 +1,127 @@
+#include "Candidates.h"
+
+#include <array>
+#include <cstdint>
+
+namespace bench {
+
+namespace {
+
+constexpr std::size_t shortest = 10;
+constexpr std::size_t longest = 80;
+
+/// A generator of our own, because the distributions of <random> differ between standard libraries.
+class Dice
+{
+public:
+    std::size_t below(std::size_t bound)
+    {
+        m_state ^= m_state << 13;
+        m_state ^= m_state >> 7;
+        m_state ^= m_state << 17;
+        return static_cast<std::size_t>((m_state >> 32) % bound);
+    }
+
+    template <std::size_t N>
+    std::string pick(const std::array<const char*, N>& words)
+    {
+        return words[below(N)];
+    }
+
+    std::string digits(std::size_t count)
+    {
+        std::string text;
+        while (text.size() < count) {
+            text += static_cast<char>('0' + below(10));
+        }
+        return text;
+    }
+
+private:
+    std::uint64_t m_state = 0x9E3779B97F4A7C15U;
+};
+
+constexpr std::array<const char*, 12> manners = {"",      "",      "",           "",        "",        "",
+                                                 "Fast ", "Slow ", "Staircase ", "Cyclic ", "Pulsed ", "Full-cell "};
+constexpr std::array<const char*, 16> methods = {
+    "voltammetry",  "chronoamperometry", "potentiometry",        "impedance",
+    "polarisation", "titration",         "Open Circuit Voltage", "Linear Sweep",
+    "square wave",  "rate capability",   "self-discharge",       "charge",
+    "discharge",    "Coulometry",        "Constant Current",     "rest"};
+constexpr std::array<const char*, 12> shortNames = {"CV",   "LSV",  "CA",  "CP",  "OCV",   "EIS",
+                                                    "GITT", "PITT", "DPV", "SWV", "CC_CV", "CstC"};
+constexpr std::array<const char*, 8> aliases = {"", "", "", "", ", rest", ", sweep", ", hold", ", Cell_Test"};
+constexpr std::array<const char*, 8> volumes = {"/data", "/home/lab", "/mnt", "/srv", "D:", "", "/media/ssd", "/tmp"};
+constexpr std::array<const char*, 8> projects = {"lfp", "nmc811", "LTO", "Na_ion", "anode", "solid", "p", "Ageing"};
+constexpr std::array<const char*, 6> endings = {".csv", ".txt", ".h5", ".json", "", ".dat"};
+
+std::string technique(Dice& dice)
+{
+    if (dice.below(10) == 0) {
+        return dice.pick(methods) + " " + dice.pick(shortNames) + "_" + dice.digits(4) + dice.pick(aliases);
+    }
+    const bool exotic = dice.below(40) == 0; // the only names with the letters that RareLetter queries ask for
+    return dice.pick(manners) + dice.pick(methods) + (exotic ? " at 50 kHz" : "") + " step " + dice.digits(2)
+        + " of characterisation protocol " + dice.digits(2) + ", " + dice.pick(shortNames) + dice.pick(aliases);
+}
+
+std::string path(Dice& dice)
+{
+    const std::string file = dice.pick(shortNames) + "_" + dice.digits(3) + dice.pick(endings);
+    if (dice.below(10) == 0) {
+        return dice.pick(projects) + "_" + dice.digits(5) + "/" + file;
+    }
+    const bool exotic = dice.below(40) == 0;
+    return dice.pick(volumes) + "/battery/projects/" + dice.pick(projects) + "/cells/" + (exotic ? "QX-z" : "A")
+        + dice.digits(4) + "/cycling/" + file;
+}
+
+} // namespace
+
+std::vector<std::string> makeNames(NameKind kind, std::size_t count)
+{
+    Dice dice;
+    std::vector<std::string> names;
+    names.reserve(count);
+    while (names.size() < count) {
+        std::string name = kind == NameKind::Technique ? technique(dice) : path(dice);
+        if (name.size() >= shortest && name.size() <= longest) {
+            names.push_back(std::move(name));
+        }
+    }
+    return names;
+}
+
+std::vector<Query> queriesFor(NameKind kind)
+{
+    if (kind == NameKind::Technique) {
+        return {{QueryKind::RareLetter, "z"},
+                {QueryKind::RareLetter, "kz"},
+                {QueryKind::RareLetter, "50khz"},
+                {QueryKind::RareLetter, "khz step o"},
+                {QueryKind::RareLetter, "at 50khz step of characterisatio"},
+                {QueryKind::RareOrder, "etpif"},
+                {QueryKind::RareOrder, "torp noita"},
+                {QueryKind::RareOrder, "protocol characterisation of ste"},
+                {QueryKind::Unselective, "e"},
+                {QueryKind::Unselective, "ct"},
+                {QueryKind::Unselective, "steps"},
+                {QueryKind::Unselective, "charprotoc"},
+                {QueryKind::Unselective, "step of characterisation protoco"}};
+    }
+    return {{QueryKind::RareLetter, "q"},
+            {QueryKind::RareLetter, "qx"},
+            {QueryKind::RareLetter, "qx-z/"},
+            {QueryKind::RareLetter, "cellsqx-z/"},
+            {QueryKind::RareLetter, "/battery/projects/cells/qx-z/cyc"},
+            {QueryKind::RareOrder, "gnybt"},
+            {QueryKind::RareOrder, "gnilcyslle"},
+            {QueryKind::RareOrder, "/cycling/cells/projects/battery/"},
+            {QueryKind::Unselective, "c"},
+            {QueryKind::Unselective, "ce"},
+            {QueryKind::Unselective, "cells"},
+            {QueryKind::Unselective, "batcellcyc"},
+            {QueryKind::Unselective, "/battery/projects/cells/cycling/"}};
+}
+
+} // namespace bench

@@ -1,0 +1,143 @@
+#include "Candidates.h"
+
+#include <search/FtsStrategy.h>
+#include <search/LiteralSearch.h>
+#include <search/TechniqueSearchStrategy.h>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <ctime>
+#include <limits>
+#include <memory>
+#include <string>
+
+// Each search is measured against the floor: one pass over all bytes of all candidates with a table look-up for each.
+// The two take turns in one benchmark, so that a busy machine slows both. The fastest turn of each counts.
+//
+// The table has 64-bit entries, because that makes the floor lowest: with entries of one byte the compiler vectorises
+// the sum into something that takes up to twice as long.
+
+namespace {
+
+constexpr std::size_t nameCount = 100'000;
+constexpr std::size_t longestLiteralQuery = 10; // the literal version takes 2 to the power of it
+constexpr std::size_t literalNameCount = 2'000;
+
+/// The processor time of this thread in seconds, which other programs do not add to.
+double now()
+{
+#ifdef _WIN32
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+#else
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
+#endif
+}
+
+template <class Work>
+double secondsFor(Work work)
+{
+    const double start = now();
+    benchmark::DoNotOptimize(work());
+    return now() - start;
+}
+
+std::uint64_t readEveryByte(const std::vector<std::string>& names, const std::array<std::uint64_t, 256>& table)
+{
+    std::uint64_t sum = 0;
+    for (const std::string& name : names) {
+        for (const char c : name) {
+            sum += table[static_cast<unsigned char>(c)];
+        }
+    }
+    return sum;
+}
+
+const std::vector<std::string>& namesOf(bench::NameKind kind)
+{
+    static const std::vector<std::string> techniques = bench::makeNames(bench::NameKind::Technique, nameCount);
+    static const std::vector<std::string> paths = bench::makeNames(bench::NameKind::Path, nameCount);
+    return kind == bench::NameKind::Technique ? techniques : paths;
+}
+
+template <class Strategy>
+void againstFloor(benchmark::State& state, bench::NameKind kind, bench::Query query)
+{
+    const std::vector<std::string>& names = namesOf(kind);
+    const std::string text(query.text);
+    const Strategy strategy;
+    std::array<std::uint64_t, 256> table{};
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        table[i] = i;
+    }
+
+    double floor = std::numeric_limits<double>::max();
+    double search = std::numeric_limits<double>::max();
+    std::size_t found = 0;
+    for (auto _ : state) {
+        floor = std::min(floor, secondsFor([&] { return readEveryByte(names, table); }));
+        const double seconds = secondsFor([&] { return found = strategy.applyAlgorithm(text, names).size(); });
+        search = std::min(search, seconds);
+        state.SetIterationTime(seconds);
+    }
+    state.counters["ratio"] = search / floor;
+    state.counters["target"] = query.kind == bench::QueryKind::Unselective ? 3 : 1;
+    state.counters["ns_per_name"] = search / static_cast<double>(names.size()) * 1e9;
+    state.counters["percent"] = 100.0 * static_cast<double>(found) / static_cast<double>(names.size());
+}
+
+template <class Score>
+void literally(benchmark::State& state, bench::NameKind kind, std::string_view query, Score score)
+{
+    const std::vector<std::string>& all = namesOf(kind);
+    const std::vector<std::string> names(all.begin(), all.begin() + literalNameCount);
+    const std::string text(query);
+    double best = std::numeric_limits<double>::max();
+    for (auto _ : state) {
+        const double seconds = secondsFor([&] {
+            std::vector<std::optional<int>> scores;
+            for (const std::string& name : names) {
+                scores.push_back(score(text, name));
+            }
+            return literal::ranking(scores).size();
+        });
+        best = std::min(best, seconds);
+        state.SetIterationTime(seconds);
+    }
+    state.counters["ns_per_name"] = best / static_cast<double>(names.size()) * 1e9;
+}
+
+bool registerAll()
+{
+    for (const auto kind : {bench::NameKind::Technique, bench::NameKind::Path}) {
+        const std::string names = kind == bench::NameKind::Technique ? "technique names" : "path names";
+        for (const bench::Query query : bench::queriesFor(kind)) {
+            const std::string what = names
+                + (query.kind == bench::QueryKind::RareLetter      ? ", rare letter, "
+                       : query.kind == bench::QueryKind::RareOrder ? ", rare order, "
+                                                                   : ", unselective, ")
+                + std::to_string(query.text.size()) + " bytes";
+            const auto add = [](const std::string& name, auto function) {
+                benchmark::RegisterBenchmark(name.c_str(), function)->UseManualTime()->Unit(benchmark::kMillisecond);
+            };
+            add("search technique/" + what,
+                [=](benchmark::State& state) { againstFloor<TechniqueSearchStrategy>(state, kind, query); });
+            add("search text/" + what, [=](benchmark::State& state) { againstFloor<FtsStrategy>(state, kind, query); });
+            add("literal text/" + what,
+                [=](benchmark::State& state) { literally(state, kind, query.text, literal::textScore); });
+            if (query.text.size() <= longestLiteralQuery) {
+                add("literal technique/" + what,
+                    [=](benchmark::State& state) { literally(state, kind, query.text, literal::techniqueScore); });
+            }
+        }
+    }
+    return true;
+}
+
+const bool registered = registerAll();
+
+} // namespace
