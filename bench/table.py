@@ -3,7 +3,8 @@
 
 usage: table.py RESULT.json...
 
-Every figure is a ratio of two measurements of the same run, so that it can be compared between machines.
+Every figure is a ratio of two measurements of the same run, so that it can be compared between machines. A row without
+a target says what the row above leaves out.
 """
 
 import json
@@ -37,6 +38,9 @@ def rows(results):
     for name in ("getAxesCombination/hit", "getAxesCombination/miss", "isRepresentationValid"):
         if (few := sized(name, 100)) and (many := sized(name, 100000)):
             yield f"{name} at 100,000 records / at 100 ({time(few):.0f} ns)", time(many) / time(few), 2
+    name = "getAxesCombination/every record"
+    if (few := sized(name, 100)) and (many := sized(name, 100000)):
+        yield "the same, each record asked for once, in random order", time(many) / time(few), None
     for name in ("removeDuplicates", "read", "write"):
         for size in (100, 1000, 10000):
             if (few := sized(name, size)) and (many := sized(name, size * 10)):
@@ -52,7 +56,8 @@ def rows(results):
 def main(paths):
     print(f"{'figure':<88} {'ratio':>8} {'target':>7}")
     for what, figure, target in rows(read(paths)):
-        print(f"{what:<88} {figure:>8.2f} {target:>7} {'' if figure <= target else ' missed'}")
+        verdict = " missed" if target is not None and figure > target else ""
+        print(f"{what:<88} {figure:>8.2f} {'' if target is None else target:>7}{verdict}")
 
 
 if __name__ == "__main__":

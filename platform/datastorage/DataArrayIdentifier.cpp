@@ -10,16 +10,6 @@ constexpr QLatin1String nameKey("name");
 constexpr QLatin1String categoryKey("category");
 } // namespace
 
-DataArrayIdentifier::DataArrayIdentifier() = default;
-
-DataArrayIdentifier::DataArrayIdentifier(const QString& name, const QString& category)
-    : m_name(name)
-    , m_category(category)
-{
-}
-
-DataArrayIdentifier::~DataArrayIdentifier() = default;
-
 bool DataArrayIdentifier::read(const QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/)
 {
     const QJsonValue name = object.value(nameKey);

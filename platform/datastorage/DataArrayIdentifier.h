@@ -17,13 +17,17 @@ class CLDATASTORAGE_EXPORT DataArrayIdentifier
 {
 public:
     /// Name and category are empty.
-    DataArrayIdentifier();
-    DataArrayIdentifier(const QString& name, const QString& category);
+    DataArrayIdentifier() = default;
+    DataArrayIdentifier(const QString& name, const QString& category)
+        : m_name(name)
+        , m_category(category)
+    {
+    }
     DataArrayIdentifier(const DataArrayIdentifier& other) = default;
     DataArrayIdentifier(DataArrayIdentifier&& other) noexcept = default;
     DataArrayIdentifier& operator=(const DataArrayIdentifier& other) = default;
     DataArrayIdentifier& operator=(DataArrayIdentifier&& other) noexcept = default;
-    virtual ~DataArrayIdentifier();
+    virtual ~DataArrayIdentifier() = default;
 
     /// Takes name and category from the strings "name" and "category" of \p object; true on success. If one of them is
     /// missing or not a string, the result is false and the identifier keeps what it held.

@@ -9,23 +9,6 @@ constexpr auto SecondKey = "axesCombinationSecond"_L1;
 
 } // namespace
 
-AxesCombination::AxesCombination() = default;
-
-AxesCombination::AxesCombination(const cl::datastorage::DataArrayIdentifier& configX,
-                                 const cl::datastorage::DataArrayIdentifier& configY, QCPAxis::ScaleType defaultScaleX,
-                                 QCPAxis::ScaleType defaultScaleY, bool orthonormal)
-    : m_configX(configX)
-    , m_configY(configY)
-    , m_defaultScaleX(defaultScaleX)
-    , m_defaultScaleY(defaultScaleY)
-    , m_orthonormal(orthonormal)
-{
-}
-
-AxesCombination::AxesCombination(const AxesCombination& other) = default;
-AxesCombination& AxesCombination::operator=(const AxesCombination& other) = default;
-AxesCombination::~AxesCombination() = default;
-
 bool AxesCombination::read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context)
 {
     return m_configX.read(object.value(FirstKey).toObject(), version, context)
@@ -51,12 +34,6 @@ bool AxesCombination::write(QJsonObject& object, int version, cl::archive::Archi
 DataStreamCombination AxesCombination::getDataStreamCombination() const
 {
     return {m_configX.getCategory(), m_configX.getName(), m_configY.getCategory(), m_configY.getName()};
-}
-
-bool AxesCombination::isValid() const
-{
-    return !m_configX.getCategory().isEmpty() && !m_configX.getName().isEmpty() && !m_configY.getCategory().isEmpty()
-        && !m_configY.getName().isEmpty();
 }
 
 bool AxesCombination::operator==(const AxesCombination& other) const

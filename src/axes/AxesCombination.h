@@ -18,15 +18,22 @@ class CLCONFIGUI_EXPORT AxesCombination
 {
 public:
     /// Both identifiers empty, both scales linear, not orthonormal; not valid.
-    AxesCombination();
+    AxesCombination() = default;
 
     /// Copies all five values.
     AxesCombination(const cl::datastorage::DataArrayIdentifier& configX,
                     const cl::datastorage::DataArrayIdentifier& configY, QCPAxis::ScaleType defaultScaleX,
-                    QCPAxis::ScaleType defaultScaleY, bool orthonormal);
-    AxesCombination(const AxesCombination& other);
-    AxesCombination& operator=(const AxesCombination& other);
-    virtual ~AxesCombination();
+                    QCPAxis::ScaleType defaultScaleY, bool orthonormal)
+        : m_configX(configX)
+        , m_configY(configY)
+        , m_defaultScaleX(defaultScaleX)
+        , m_defaultScaleY(defaultScaleY)
+        , m_orthonormal(orthonormal)
+    {
+    }
+    AxesCombination(const AxesCombination& other) = default;
+    AxesCombination& operator=(const AxesCombination& other) = default;
+    virtual ~AxesCombination() = default;
 
     /// Reads the two identifiers from their archive objects; scales and flag are not archived and keep their values.
     /// Returns false as soon as an identifier refuses to be read: the Y identifier is untouched when X refused.
@@ -52,7 +59,11 @@ public:
     DataStreamCombination getDataStreamCombination() const;
 
     /// True when the name and the category of both identifiers are non-empty.
-    bool isValid() const;
+    bool isValid() const
+    {
+        return !m_configX.getCategory().isEmpty() && !m_configX.getName().isEmpty()
+            && !m_configY.getCategory().isEmpty() && !m_configY.getName().isEmpty();
+    }
 
     /// Compares the identities only, exactly and case-sensitively: records that differ in scales or flag are equal.
     bool operator==(const AxesCombination& other) const;

@@ -62,7 +62,7 @@ AxesCombinationManager::~AxesCombinationManager() = default;
 
 bool AxesCombinationManager::read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context)
 {
-    replaceCombinations(readRecords<AxesCombination>(jsonfields::array(object, CombinationsKey), version, context));
+    replaceCombinations(readRecords<AxesCombination>(object.value(CombinationsKey).toArray(), version, context));
     return true;
 }
 
@@ -74,12 +74,9 @@ bool AxesCombinationManager::write(QJsonObject& object, int version, cl::archive
 
 QList<AxesCombination> AxesCombinationManager::getAxesCombinations(const QString& x) const
 {
-    const QList<qsizetype> records = m_index.records(x);
     QList<AxesCombination> result;
-    result.reserve(records.size());
-    for (const qsizetype record : records) {
-        result.append(m_combinations.at(record));
-    }
+    result.reserve(m_index.count(x));
+    m_index.forEachRecord(x, [&](qsizetype record) { result.append(m_combinations.at(record)); });
     return result;
 }
 

@@ -1,11 +1,11 @@
 #include <axes/AxesCombinationManager.h>
 
+#include <axes/private/JsonFields.h>
 #include <batterydata/ClConfigDataArrayManager.h>
 #include <batterydata/RawDataCollection.h>
 #include <config/Singleton.h>
 
 #include <QCborArray>
-#include <QCborMap>
 #include <QJsonArray>
 #include <QVarLengthArray>
 
@@ -38,31 +38,36 @@ constexpr auto UnexpectedScale = "Unexpected axes combination default scale"_L1;
 constexpr auto UnexpectedOrthonormal = "Unexpected axes combination orthonormal parameter"_L1;
 
 using cl::batterydata::ClConfigDataArrayManager;
-using DataArrays = QVarLengthArray<const cl::datastorage::ConfigDataArray*, 4>;
 
-/// The text under \p key, empty when it is missing or no text.
-QString text(const QCborMap& fields, QLatin1StringView key)
+/// An array that a reference names, and its number in the index from the first pair on.
+struct NamedArray
 {
-    const auto field = fields.constFind(key);
-    return field == fields.constEnd() ? QString() : field->toString();
-}
+    const cl::datastorage::ConfigDataArray* array = nullptr;
+    qint32 number = Unnumbered;
+
+    static constexpr qint32 Unnumbered = -1;
+};
+using NamedArrays = QVarLengthArray<NamedArray, 4>;
 
 /// The arrays that a reference names: one when it gives a category, all of that name when it does not. Empty optional,
 /// with \p error filled from \p unknownMessage, when the category has no such array.
-std::optional<DataArrays> resolveReference(const ClConfigDataArrayManager& catalogue, const QCborMap& reference,
-                                           QLatin1StringView unknownMessage, QString& error)
+std::optional<NamedArrays> resolveReference(const ClConfigDataArrayManager& catalogue, const JsonFields& reference,
+                                            QLatin1StringView unknownMessage, QString& error)
 {
-    const QString name = text(reference, NameKey);
-    const QString category = text(reference, CategoryKey);
+    const QString name = reference.text(NameKey);
+    const QString category = reference.text(CategoryKey);
+    NamedArrays arrays;
     if (category.isEmpty()) {
-        const auto arrays = catalogue.getConfigDataArrays(name);
-        return DataArrays(arrays.cbegin(), arrays.cend());
+        for (const auto* array : catalogue.getConfigDataArrays(name)) {
+            arrays.append({array});
+        }
+    } else if (const auto* array = catalogue.getConfigDataArray(name, category)) {
+        arrays.append({array});
+    } else {
+        error = QString(unknownMessage).arg(name, 0, u' ').arg(category, 0, u' ');
+        return std::nullopt;
     }
-    if (const auto* array = catalogue.getConfigDataArray(name, category)) {
-        return DataArrays{array};
-    }
-    error = QString(unknownMessage).arg(name, 0, u' ').arg(category, 0, u' ');
-    return std::nullopt;
+    return arrays;
 }
 
 struct PlotDefaults
@@ -77,15 +82,15 @@ QCPAxis::ScaleType scaleFromWord(const QString& word)
     return word == LinearWord ? QCPAxis::stLinear : QCPAxis::stLogarithmic;
 }
 
-std::optional<PlotDefaults> readPlotDefaults(const QCborMap& entry, QString& error)
+std::optional<PlotDefaults> readPlotDefaults(const JsonFields& entry, QString& error)
 {
-    const QString scaleX = text(entry, ScaleXKey);
-    const QString scaleY = text(entry, ScaleYKey);
+    const QString scaleX = entry.text(ScaleXKey);
+    const QString scaleY = entry.text(ScaleYKey);
     if (scaleX.isEmpty() || scaleY.isEmpty()) {
         error = UnexpectedScale;
         return std::nullopt;
     }
-    const QString orthonormal = text(entry, OrthonormalKey);
+    const QString orthonormal = entry.text(OrthonormalKey);
     if (orthonormal.isEmpty()) {
         error = UnexpectedOrthonormal;
         return std::nullopt;
@@ -117,48 +122,55 @@ bool AxesCombinationManager::readAxesCombinations(const QJsonObject& root, QStri
 
 bool AxesCombinationManager::readAxesCombination(const QJsonObject& entry, QString& error)
 {
-    // The same data seen as CBOR, in which keys are found and elements are passed in half the time. References make up
-    // most of a document.
-    const QCborMap fields = QCborMap::fromJsonObject(entry);
-    const QCborValue x = fields.value(XKey);
-    if (!x.isArray()) {
+    const JsonFields fields(entry);
+    if (!fields.hasArray(XKey)) {
         error = UnexpectedX;
         return false;
     }
-    const QCborArray xReferences = x.toArray();
-    const QCborArray yReferences = fields.value(YKey).toArray();
+    const QCborArray xReferences = fields.array(XKey);
+    const QCborArray yReferences = fields.array(YKey);
     const ClConfigDataArrayManager& catalogue =
         lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
 
     // Resolved and read when they are first needed, which decides what is appended before a failure and which failure
     // comes first; kept from then on, since neither can change from pair to pair.
-    std::vector<DataArrays> yArrays;
+    std::vector<NamedArrays> yArrays;
     yArrays.reserve(static_cast<size_t>(yReferences.size()));
     std::optional<PlotDefaults> defaults;
 
     for (const auto& xReference : xReferences) {
-        const auto xArrays = resolveReference(catalogue, xReference.toMap(), UnknownX, error);
+        auto xArrays = resolveReference(catalogue, JsonFields(xReference), UnknownX, error);
         if (!xArrays) {
             return false;
         }
         size_t y = 0;
         for (const auto& yReference : yReferences) {
             if (y == yArrays.size()) {
-                auto resolved = resolveReference(catalogue, yReference.toMap(), UnknownY, error);
+                auto resolved = resolveReference(catalogue, JsonFields(yReference), UnknownY, error);
                 if (!resolved) {
                     return false;
                 }
                 yArrays.push_back(*std::move(resolved));
             }
-            for (const auto* arrayX : *xArrays) {
-                for (const auto* arrayY : yArrays[y]) {
-                    if (arrayX->getCategory() != arrayY->getCategory()) {
+            for (NamedArray& arrayX : *xArrays) {
+                for (NamedArray& arrayY : yArrays[y]) {
+                    if (arrayX.array->getCategory() != arrayY.array->getCategory()) {
                         continue;
                     }
                     if (!defaults && !(defaults = readPlotDefaults(fields, error))) {
                         return false;
                     }
-                    append(*arrayX, *arrayY, defaults->scaleX, defaults->scaleY, defaults->orthonormal);
+                    m_combinations.emplaceBack(*arrayX.array, *arrayY.array, defaults->scaleX, defaults->scaleY,
+                                               defaults->orthonormal);
+                    if (m_combinations.constLast().isValid()) {
+                        if (arrayX.number == NamedArray::Unnumbered) {
+                            arrayX.number = m_index.numberX(arrayX.array->getName());
+                        }
+                        if (arrayY.number == NamedArray::Unnumbered) {
+                            arrayY.number = m_index.numberY(arrayY.array->getName());
+                        }
+                        m_index.add(arrayX.number, arrayY.number, m_combinations.size() - 1);
+                    }
                 }
             }
             ++y;

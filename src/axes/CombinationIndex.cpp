@@ -14,34 +14,52 @@ size_t spread(qint32 x, qint32 y, size_t places)
     return static_cast<size_t>((pair * 0x9E3779B97F4A7C15U) >> 32) & (places - 1);
 }
 
+/// The number of \p name, the next one if it is new.
+qint32 numberOf(const QString& name, QHash<QString, qint32>& numbers, QList<QString>& names)
+{
+    qint32& number = numbers[name];
+    if (numbers.size() != names.size()) {
+        number = static_cast<qint32>(names.size());
+        names.append(name);
+    }
+    return number;
+}
+
 } // namespace
 
-void CombinationIndex::add(const QString& x, const QString& y, qsizetype record)
+qint32 CombinationIndex::numberX(const QString& x)
 {
-    if (m_lastGroup == Slot::Free || m_xNames.at(m_lastGroup) != x) {
-        m_lastGroup = groupOf(x);
-        if (m_lastGroup == Slot::Free) {
-            m_lastGroup = static_cast<qint32>(m_groups.size());
-            m_groupNumbers.insert(x, m_lastGroup);
-            m_xNames.append(x);
-            m_groups.emplace_back();
-        }
+    // Combinations of one X name mostly come one after the other.
+    if (!m_xNames.isEmpty() && m_xNames.at(m_lastX) == x) {
+        return m_lastX;
     }
-    Group& group = m_groups[static_cast<size_t>(m_lastGroup)];
-    group.records.append(record);
+    m_lastX = numberOf(x, m_xNumbers, m_xNames);
+    m_groups.resize(static_cast<size_t>(m_xNames.size()));
+    return m_lastX;
+}
 
-    const qsizetype knownNames = m_yNumbers.size();
-    qint32& yNumber = m_yNumbers[y];
-    if (m_yNumbers.size() != knownNames) {
-        yNumber = static_cast<qint32>(knownNames);
-    }
+qint32 CombinationIndex::numberY(const QString& y)
+{
+    return numberOf(y, m_yNumbers, m_yNames);
+}
+
+void CombinationIndex::add(qint32 x, qint32 y, qsizetype record)
+{
+    const auto entry = static_cast<qint32>(m_entries.size());
+    m_entries.push_back({static_cast<qint32>(record)});
+    Group& group = m_groups[static_cast<size_t>(x)];
+    (group.last == None ? group.first : m_entries[static_cast<size_t>(group.last)].next) = entry;
+    group.last = entry;
+    ++group.records;
+
     if (4 * (m_pairs + 1) > 3 * m_slots.size()) {
         grow();
     }
-    Slot& slot = m_slots[slotOf(m_slots, m_lastGroup, yNumber)];
-    if (slot.x == Slot::Free) {
-        slot = {m_lastGroup, yNumber, static_cast<qint32>(record)};
-        group.yNames.append(y);
+    Slot& slot = m_slots[slotOf(m_slots, x, y)];
+    if (slot.x == None) {
+        slot = {x, y, static_cast<qint32>(record)};
+        m_entries.back().newY = y;
+        ++group.yNames;
         ++m_pairs;
     }
 }
@@ -53,43 +71,52 @@ void CombinationIndex::clear()
 
 qsizetype CombinationIndex::find(const QString& x, const QString& y) const
 {
-    const qint32 xNumber = groupOf(x);
-    const qint32 yNumber = m_yNumbers.value(y, Slot::Free);
-    if (xNumber == Slot::Free || yNumber == Slot::Free) {
+    const qint32 xNumber = m_xNumbers.value(x, None);
+    const qint32 yNumber = m_yNumbers.value(y, None);
+    if (xNumber == None || yNumber == None) {
         return -1;
     }
     const Slot& slot = m_slots[slotOf(m_slots, xNumber, yNumber)];
-    return slot.x == Slot::Free ? -1 : slot.record;
+    return slot.x == None ? -1 : slot.record;
 }
 
-QList<qsizetype> CombinationIndex::records(const QString& x) const
+qsizetype CombinationIndex::count(const QString& x) const
 {
     const Group* group = groupNamed(x);
-    return group == nullptr ? QList<qsizetype>() : group->records;
+    return group == nullptr ? 0 : group->records;
 }
 
 QList<QString> CombinationIndex::yNames(const QString& x) const
 {
-    const Group* group = groupNamed(x);
-    return group == nullptr ? QList<QString>() : group->yNames;
-}
-
-qint32 CombinationIndex::groupOf(const QString& x) const
-{
-    return m_groupNumbers.value(x, Slot::Free);
+    QList<QString> names;
+    if (const Group* group = groupNamed(x)) {
+        names.reserve(group->yNames);
+        for (qint32 entry = group->first; entry != None; entry = m_entries[static_cast<size_t>(entry)].next) {
+            if (const qint32 y = m_entries[static_cast<size_t>(entry)].newY; y != None) {
+                names.append(m_yNames.at(y));
+            }
+        }
+    }
+    return names;
 }
 
 const CombinationIndex::Group* CombinationIndex::groupNamed(const QString& x) const
 {
-    const qint32 group = groupOf(x);
-    return group == Slot::Free ? nullptr : &m_groups[static_cast<size_t>(group)];
+    const qint32 group = m_xNumbers.value(x, None);
+    return group == None ? nullptr : &m_groups[static_cast<size_t>(group)];
+}
+
+qint32 CombinationIndex::firstEntry(const QString& x) const
+{
+    const Group* group = groupNamed(x);
+    return group == nullptr ? None : group->first;
 }
 
 /// The place where the pair stands, or the free one where it belongs.
 size_t CombinationIndex::slotOf(const std::vector<Slot>& slotTable, qint32 x, qint32 y)
 {
     size_t place = spread(x, y, slotTable.size());
-    while (slotTable[place].x != Slot::Free && (slotTable[place].x != x || slotTable[place].y != y)) {
+    while (slotTable[place].x != None && (slotTable[place].x != x || slotTable[place].y != y)) {
         place = (place + 1) & (slotTable.size() - 1);
     }
     return place;
@@ -99,7 +126,7 @@ void CombinationIndex::grow()
 {
     std::vector<Slot> grown(std::max(FirstSlots, 2 * m_slots.size()));
     for (const Slot& slot : m_slots) {
-        if (slot.x != Slot::Free) {
+        if (slot.x != None) {
             grown[slotOf(grown, slot.x, slot.y)] = slot;
         }
     }

@@ -13,15 +13,34 @@
 class CombinationIndex
 {
 public:
-    /// REQUIRES: records are added in ascending order.
-    void add(const QString& x, const QString& y, qsizetype record);
+    /// The number by which add() takes an X name. REQUIRES: a record is added under it at once, since the name counts
+    /// as one of the X names from here on.
+    qint32 numberX(const QString& x);
+
+    /// The number by which add() takes a Y name.
+    qint32 numberY(const QString& y);
+
+    /// Adds a record under the names of two numbers. Who adds many records asks for each number once. REQUIRES: records
+    /// are added in ascending order.
+    void add(qint32 x, qint32 y, qsizetype record);
+    void add(const QString& x, const QString& y, qsizetype record) { add(numberX(x), numberY(y), record); }
+
     void clear();
 
     /// The first record added under the two names, −1 when there is none.
     qsizetype find(const QString& x, const QString& y) const;
 
-    /// Every record added under \p x, in order.
-    QList<qsizetype> records(const QString& x) const;
+    /// How many records were added under \p x.
+    qsizetype count(const QString& x) const;
+
+    /// Calls \p visit with every record added under \p x, in order.
+    template <typename Visitor>
+    void forEachRecord(const QString& x, Visitor visit) const
+    {
+        for (qint32 entry = firstEntry(x); entry != None; entry = m_entries[static_cast<size_t>(entry)].next) {
+            visit(static_cast<qsizetype>(m_entries[static_cast<size_t>(entry)].record));
+        }
+    }
 
     /// The X names, each once, in the order of their first occurrence.
     const QList<QString>& xNames() const { return m_xNames; }
@@ -30,34 +49,46 @@ public:
     QList<QString> yNames(const QString& x) const;
 
 private:
-    /// What was added under one X name.
+    static constexpr qint32 None = -1;
+
+    /// What was added under one X name: a chain of entries.
     struct Group
     {
-        QList<qsizetype> records;
-        QList<QString> yNames;
+        qint32 first = None;
+        qint32 last = None;
+        qint32 records = 0;
+        qint32 yNames = 0;
+    };
+
+    /// An added record, and the Y name that it was the first to bring to its X name.
+    struct Entry
+    {
+        qint32 record;
+        qint32 newY = None;
+        qint32 next = None;
     };
 
     /// A place of the hash table of all pairs: an X and a Y name by their numbers, and the first record with them.
     /// Small, and compared without touching a text, so that a lookup among many pairs waits for memory once.
     struct Slot
     {
-        qint32 x = Free;
+        qint32 x = None;
         qint32 y = 0;
         qint32 record = 0;
-
-        static constexpr qint32 Free = -1;
     };
 
-    qint32 groupOf(const QString& x) const;
     const Group* groupNamed(const QString& x) const;
+    qint32 firstEntry(const QString& x) const;
     static size_t slotOf(const std::vector<Slot>& slotTable, qint32 x, qint32 y);
     void grow();
 
-    QList<QString> m_xNames;
+    QList<QString> m_xNames; // by their numbers
     std::vector<Group> m_groups; // of the X names, in their order
-    QHash<QString, qint32> m_groupNumbers;
+    QHash<QString, qint32> m_xNumbers;
+    QList<QString> m_yNames; // by their numbers
     QHash<QString, qint32> m_yNumbers;
+    std::vector<Entry> m_entries; // in the order of adding
     std::vector<Slot> m_slots; // open addressing; a power of two of them, at most three quarters of them taken
     size_t m_pairs = 0;
-    qint32 m_lastGroup = Slot::Free; // combinations of one X name come one after the other
+    qint32 m_lastX = 0;
 };

@@ -28,10 +28,11 @@ DataStreamCombination::~DataStreamCombination() = default;
 
 bool DataStreamCombination::read(const QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/)
 {
-    setXCategory(jsonfields::text(object, XCategoryKey));
-    setXName(jsonfields::text(object, XNameKey));
-    setYCategory(jsonfields::text(object, YCategoryKey));
-    setYName(jsonfields::text(object, YNameKey));
+    const JsonFields fields(object);
+    setXCategory(fields.text(XCategoryKey));
+    setXName(fields.text(XNameKey));
+    setYCategory(fields.text(YCategoryKey));
+    setYName(fields.text(YNameKey));
     return true;
 }
 

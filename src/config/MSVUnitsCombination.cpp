@@ -25,7 +25,7 @@ bool MSVUnitsCombination::read(const QJsonObject& object, int /*version*/, cl::a
 {
     m_physicalParameter = static_cast<PhysicalParameter>(object.value(PhysicalParameterKey).toInt());
     m_operator = static_cast<UsualUnitOperator>(object.value(OperatorKey).toInt());
-    const QJsonArray parameters = jsonfields::array(object, MultiParametersKey);
+    const QJsonArray parameters = object.value(MultiParametersKey).toArray();
     for (const auto& parameter : parameters) {
         m_multiParamsList.append(static_cast<PhysicalParameter>(parameter.toInt()));
     }

@@ -1,7 +1,5 @@
 #include <config/UIConfig.h>
 
-#include <axes/private/JsonFields.h>
-
 #include <QJsonArray>
 
 #include <algorithm>
@@ -58,7 +56,7 @@ bool UIConfig::readCustomColors(const QJsonValue& customColors, QString& error)
             return false;
         }
         const QJsonObject entry = element.toObject();
-        const QString name = jsonfields::text(entry, NameKey);
+        const QString name = entry.value(NameKey).toString();
         const QJsonValue triple = entry.value(RgbKey);
         if (!triple.isArray()) {
             error = QString(RgbNotAnArray).arg(name);

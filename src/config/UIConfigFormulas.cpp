@@ -32,10 +32,10 @@ bool UIConfig::readProcessFormulaConfig(const QJsonObject& root, QString& error)
     for (auto it = groups.begin(); it != groups.end(); ++it) {
         // Every group that is not one of the two others is taken for the second Y axis.
         auto& formulas = it.key() == XGroup ? m_xFormulas : it.key() == Y1Group ? m_y1Formulas : m_y2Formulas;
-        const QJsonArray entries = it.value().toArray();
-        for (const auto& element : entries) {
-            const QJsonObject formula = element.toObject();
-            formulas.append({jsonfields::text(formula, DisplayedKey), jsonfields::text(formula, CompiledKey)});
+        const auto entries = QCborArray::fromJsonArray(it.value().toArray());
+        for (const auto& entry : entries) {
+            const JsonFields formula(entry);
+            formulas.append({formula.text(DisplayedKey), formula.text(CompiledKey)});
         }
     }
     return true;

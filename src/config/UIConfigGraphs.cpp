@@ -26,9 +26,7 @@ bool readTitledGraphs(const QJsonValue& section, QLatin1StringView missing, QLis
     }
     const QJsonObject members = section.toObject();
     for (auto it = members.begin(); it != members.end(); ++it) {
-        Graph graph;
-        graph.readGraphItem(it.key(), members);
-        graphs.append(graph);
+        graphs.emplaceBack().readGraphItem(it.key(), members);
     }
     return true;
 }
@@ -58,9 +56,7 @@ bool UIConfig::readProcessedDataGraph(const QJsonObject& root, QString& error)
             error = ProcessedDataMissing;
             return false;
         }
-        ProcessedDataItem graph;
-        graph.readGraphItem(entry.toObject());
-        m_processedDataGraph.append(graph);
+        m_processedDataGraph.emplaceBack().readGraphItem(entry.toObject());
     }
     return true;
 }

@@ -41,19 +41,17 @@ bool UIConfig::readRecipeCommandConfig(QJsonValue recipe, const QString& command
         error = command + CommandNotAnArray;
         return false;
     }
-    const QJsonArray entries = group.toArray();
+    const auto entries = QCborArray::fromJsonArray(group.toArray());
     for (const auto& element : entries) {
-        const QJsonObject entry = element.toObject();
-        RecipeConfigItem item;
+        const JsonFields entry(element);
+        RecipeConfigItem& item = list.emplaceBack();
         item.setType(command);
-        item.setUiTitle(jsonfields::text(entry, TitleKey));
+        item.setUiTitle(entry.text(TitleKey));
         for (const QLatin1StringView key : ParameterKeys) {
-            const auto parameter = entry.constFind(key);
-            if (parameter != entry.constEnd() && parameter->isString()) {
-                item.addParameter(parameter->toString());
+            if (entry.hasText(key)) {
+                item.addParameter(entry.text(key));
             }
         }
-        list.append(item);
     }
     return true;
 }

@@ -65,13 +65,13 @@ bool UIConfig::readRepresentations(const QJsonObject& root, QString& error)
         lumo::tools::Singleton<RawDataCollection>::instance().getDataConfiguration();
     const auto isKnown = [&](const QString& name) { return !catalogue.getConfigDataArrays(name).isEmpty(); };
 
-    const QJsonArray entries = section.toArray();
+    const auto entries = QCborArray::fromJsonArray(section.toArray());
     for (const auto& element : entries) {
-        const QJsonObject entry = element.toObject();
-        const QString name = jsonfields::text(entry, NameKey);
-        const QString x = jsonfields::text(entry, XKey);
-        const QString y1 = jsonfields::text(entry, Y1Key);
-        const QString y2 = jsonfields::text(entry, Y2Key);
+        const JsonFields entry(element);
+        const QString name = entry.text(NameKey);
+        const QString x = entry.text(XKey);
+        const QString y1 = entry.text(Y1Key);
+        const QString y2 = entry.text(Y2Key);
         if (name.isEmpty()) {
             error = NoName;
             return false;
@@ -92,14 +92,14 @@ bool UIConfig::readRepresentations(const QJsonObject& root, QString& error)
             error = UnexpectedY2 + y2;
             return false;
         }
-        const bool isDefault = jsonfields::flag(entry, DefaultKey);
+        const bool isDefault = entry.flag(DefaultKey);
         if (isDefault) {
             markAsDefault(catalogue.getConfigDataArrays(x), &ConfigDataArray::setDefaultX);
             markAsDefault(catalogue.getConfigDataArrays(y1), &ConfigDataArray::setDefaultY1);
             markAsDefault(catalogue.getConfigDataArrays(y2), &ConfigDataArray::setDefaultY2);
         }
         m_configRepresentationManager.append(
-            new ConfigRepresentation(name, x, y1, y2, jsonfields::text(entry, CategoryKey), isDefault));
+            new ConfigRepresentation(name, x, y1, y2, entry.text(CategoryKey), isDefault));
     }
     return true;
 }

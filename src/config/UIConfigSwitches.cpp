@@ -20,8 +20,8 @@ constexpr auto ZFitInputDataKey = "saveZFitInputData"_L1;
 bool UIConfig::readFilters(const QJsonObject& root, QString& /*error*/)
 {
     // What is missing or has another type reads as empty on the way down and adds nothing.
-    const QJsonObject tasks = root.value(FiltersKey).toObject().value(TasksKey).toObject();
-    m_skippedTasks.append(jsonfields::texts(tasks, SkippedKey));
+    const JsonFields tasks(root.value(FiltersKey).toObject().value(TasksKey).toObject());
+    m_skippedTasks.append(tasks.texts(SkippedKey));
     return true;
 }
 
@@ -29,10 +29,10 @@ bool UIConfig::readDebugFlags(const QJsonObject& root, QString& /*error*/)
 {
     const QJsonValue section = root.value(DebugKey);
     if (section.isObject()) {
-        const QJsonObject flags = section.toObject();
-        m_importDialogShowClIds = jsonfields::flag(flags, ImportDialogClIdsKey);
-        m_saveImportedParquetFiles = jsonfields::flag(flags, ImportedParquetFilesKey);
-        m_saveZFitInputData = jsonfields::flag(flags, ZFitInputDataKey);
+        const JsonFields flags(section.toObject());
+        m_importDialogShowClIds = flags.flag(ImportDialogClIdsKey);
+        m_saveImportedParquetFiles = flags.flag(ImportedParquetFilesKey);
+        m_saveZFitInputData = flags.flag(ZFitInputDataKey);
     }
     return true;
 }

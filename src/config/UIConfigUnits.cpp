@@ -29,14 +29,13 @@ bool UIConfig::readMSVUnitsCombinationsConfig(const QJsonObject& root, QString& 
         error = SectionMissing;
         return false;
     }
-    const QJsonArray entries = section.toArray();
+    const auto entries = QCborArray::fromJsonArray(section.toArray());
     for (const auto& element : entries) {
-        const QJsonObject entry = element.toObject();
+        const JsonFields entry(element);
         auto combination = std::make_unique<MSVUnitsCombination>();
-        combination->setPhysicalParameter(
-            Converter::getPhysicalParameterFromString(jsonfields::text(entry, PhysicalParameterKey)));
-        combination->setOperator(Converter::getOperatorFromString(jsonfields::text(entry, OperatorKey)));
-        const QJsonArray parameters = jsonfields::array(entry, MultiParamsKey);
+        combination->setPhysicalParameter(Converter::getPhysicalParameterFromString(entry.text(PhysicalParameterKey)));
+        combination->setOperator(Converter::getOperatorFromString(entry.text(OperatorKey)));
+        const QCborArray parameters = entry.array(MultiParamsKey);
         for (const auto& parameter : parameters) {
             combination->addMultiParamToList(Converter::getPhysicalParameterFromString(parameter.toString()));
         }

@@ -26,10 +26,11 @@ DQdUAnalysisItem::~DQdUAnalysisItem() = default;
 
 bool DQdUAnalysisItem::read(const QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/)
 {
-    m_title = jsonfields::text(object, TitleKey);
-    m_category = jsonfields::text(object, CategoryKey);
-    m_streamX = jsonfields::text(object, StreamXKey);
-    m_streamY1 = jsonfields::text(object, StreamY1Key);
+    const JsonFields fields(object);
+    m_title = fields.text(TitleKey);
+    m_category = fields.text(CategoryKey);
+    m_streamX = fields.text(StreamXKey);
+    m_streamY1 = fields.text(StreamY1Key);
     return true;
 }
 
@@ -49,8 +50,9 @@ AxesCombination DQdUAnalysisItem::getAxesCombination() const
 
 void DQdUAnalysisItem::readGraphItem(const QJsonObject& entry)
 {
-    m_title = jsonfields::text(entry, EntryTitleKey);
-    m_category = jsonfields::text(entry, EntryCategoryKey);
-    m_streamX = jsonfields::text(entry, EntryXKey);
-    m_streamY1 = jsonfields::text(entry, EntryY1Key);
+    const JsonFields fields(entry);
+    m_title = fields.text(EntryTitleKey);
+    m_category = fields.text(EntryCategoryKey);
+    m_streamX = fields.text(EntryXKey);
+    m_streamY1 = fields.text(EntryY1Key);
 }

@@ -32,12 +32,13 @@ ProcessedDataItem::~ProcessedDataItem() = default;
 
 bool ProcessedDataItem::read(const QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/)
 {
-    m_title = jsonfields::text(object, TitleKey);
-    m_category = jsonfields::text(object, CategoryKey);
-    m_streamX = jsonfields::text(object, StreamXKey);
-    m_streamY1 = jsonfields::text(object, StreamY1Key);
-    m_streamY2 = jsonfields::text(object, StreamY2Key);
-    m_processedStreamsY = JsonUtils::QStringListFromJsonArray(jsonfields::array(object, ProcessedKey));
+    const JsonFields fields(object);
+    m_title = fields.text(TitleKey);
+    m_category = fields.text(CategoryKey);
+    m_streamX = fields.text(StreamXKey);
+    m_streamY1 = fields.text(StreamY1Key);
+    m_streamY2 = fields.text(StreamY2Key);
+    m_processedStreamsY = JsonUtils::QStringListFromJsonArray(object.value(ProcessedKey).toArray());
     return true;
 }
 
@@ -59,10 +60,11 @@ AxesCombination ProcessedDataItem::getAxesCombination() const
 
 void ProcessedDataItem::readGraphItem(const QJsonObject& entry)
 {
-    m_title = jsonfields::text(entry, EntryTitleKey);
-    m_category = jsonfields::text(entry, EntryCategoryKey);
-    m_streamX = jsonfields::text(entry, EntryXKey);
-    m_streamY1 = jsonfields::text(entry, EntryY1Key);
-    m_streamY2 = jsonfields::text(entry, EntryY2Key);
-    m_processedStreamsY = jsonfields::texts(entry, EntryProcessedKey);
+    const JsonFields fields(entry);
+    m_title = fields.text(EntryTitleKey);
+    m_category = fields.text(EntryCategoryKey);
+    m_streamX = fields.text(EntryXKey);
+    m_streamY1 = fields.text(EntryY1Key);
+    m_streamY2 = fields.text(EntryY2Key);
+    m_processedStreamsY = fields.texts(EntryProcessedKey);
 }

@@ -21,11 +21,12 @@ PythonAnalysisItem::~PythonAnalysisItem() = default;
 
 bool PythonAnalysisItem::read(const QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/)
 {
-    m_title = jsonfields::text(object, TitleKey);
-    m_category = jsonfields::text(object, CategoryKey);
-    m_id = jsonfields::text(object, IdKey);
-    m_inputColumns = jsonfields::texts(object, InputsKey);
-    m_dutRunPaths = jsonfields::texts(object, DutRunsKey);
+    const JsonFields fields(object);
+    m_title = fields.text(TitleKey);
+    m_category = fields.text(CategoryKey);
+    m_id = fields.text(IdKey);
+    m_inputColumns = fields.texts(InputsKey);
+    m_dutRunPaths = fields.texts(DutRunsKey);
     return true;
 }
 

@@ -20,9 +20,10 @@ PythonGraphAnalysisItem::~PythonGraphAnalysisItem() = default;
 bool PythonGraphAnalysisItem::read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context)
 {
     PythonAnalysisItem::read(object, version, context);
-    m_streamX = jsonfields::text(object, StreamXKey);
-    m_streamY1 = jsonfields::text(object, StreamY1Key);
-    m_streamY2 = jsonfields::text(object, StreamY2Key);
+    const JsonFields fields(object);
+    m_streamX = fields.text(StreamXKey);
+    m_streamY1 = fields.text(StreamY1Key);
+    m_streamY2 = fields.text(StreamY2Key);
     return true;
 }
 

@@ -18,7 +18,8 @@ PythonTableAnalysisItem::~PythonTableAnalysisItem() = default;
 bool PythonTableAnalysisItem::read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context)
 {
     PythonAnalysisItem::read(object, version, context);
-    m_outputColumns = jsonfields::texts(object, OutputsKey);
+    const JsonFields fields(object);
+    m_outputColumns = fields.texts(OutputsKey);
     return true;
 }
 

@@ -10,7 +10,7 @@ RagonePlotChildItem::~RagonePlotChildItem() = default;
 
 bool RagonePlotChildItem::read(const QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/)
 {
-    curves::readTexts(*this, object, curves::ArchiveKeys);
+    curves::readTexts(*this, JsonFields(object), curves::ArchiveKeys);
     return true;
 }
 

@@ -1,6 +1,5 @@
 #include <items/RagonePlotItem.h>
 
-#include <axes/private/JsonFields.h>
 #include <axes/private/RecordList.h>
 #include <items/private/Curves.h>
 #include <items/private/TitleLookup.h>
@@ -21,8 +20,8 @@ RagonePlotItem::~RagonePlotItem() = default;
 
 bool RagonePlotItem::read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context)
 {
-    m_title = jsonfields::text(object, TitleKey);
-    m_graphItems = readRecords<RagonePlotChildItem>(jsonfields::array(object, GraphItemsKey), version, context);
+    m_title = object.value(TitleKey).toString();
+    m_graphItems = readRecords<RagonePlotChildItem>(object.value(GraphItemsKey).toArray(), version, context);
     return true;
 }
 

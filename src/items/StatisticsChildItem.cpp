@@ -20,9 +20,10 @@ StatisticsChildItem::~StatisticsChildItem() = default;
 
 bool StatisticsChildItem::read(const QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/)
 {
-    curves::readTexts(*this, object, curves::ArchiveKeys);
-    m_isStatisticsEnvelope = jsonfields::flag(object, EnvelopeKey);
-    m_isStatisticsErrorBars = jsonfields::flag(object, ErrorBarsKey);
+    const JsonFields fields(object);
+    curves::readTexts(*this, fields, curves::ArchiveKeys);
+    m_isStatisticsEnvelope = fields.flag(EnvelopeKey);
+    m_isStatisticsErrorBars = fields.flag(ErrorBarsKey);
     return true;
 }
 

@@ -1,6 +1,5 @@
 #include <items/StatisticsItem.h>
 
-#include <axes/private/JsonFields.h>
 #include <axes/private/RecordList.h>
 #include <items/private/Curves.h>
 #include <items/private/TitleLookup.h>
@@ -21,8 +20,8 @@ StatisticsItem::~StatisticsItem() = default;
 
 bool StatisticsItem::read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context)
 {
-    m_title = jsonfields::text(object, TitleKey);
-    m_graphItems = readRecords<StatisticsChildItem>(jsonfields::array(object, GraphItemsKey), version, context);
+    m_title = object.value(TitleKey).toString();
+    m_graphItems = readRecords<StatisticsChildItem>(object.value(GraphItemsKey).toArray(), version, context);
     return true;
 }
 

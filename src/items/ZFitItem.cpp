@@ -23,9 +23,10 @@ ZFitItem::~ZFitItem() = default;
 
 bool ZFitItem::read(const QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/)
 {
-    m_equivalentCircuit = jsonfields::text(object, CircuitKey).replace(u'a', GreekAlpha);
-    m_viscosity = jsonfields::text(object, ViscosityKey);
-    m_rotationRate = jsonfields::text(object, RotationRateKey);
+    const JsonFields fields(object);
+    m_equivalentCircuit = fields.text(CircuitKey).replace(u'a', GreekAlpha);
+    m_viscosity = fields.text(ViscosityKey);
+    m_rotationRate = fields.text(RotationRateKey);
     return true;
 }
 

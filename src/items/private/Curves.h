@@ -26,13 +26,13 @@ constexpr Keys ArchiveKeys{QLatin1StringView("title"), QLatin1StringView("catego
                            QLatin1StringView("streamY"), QLatin1StringView("type")};
 
 template <typename Curve>
-void readTexts(Curve& curve, const QJsonObject& object, const Keys& keys)
+void readTexts(Curve& curve, const JsonFields& fields, const Keys& keys)
 {
-    curve.setTitle(jsonfields::text(object, keys.title));
-    curve.setCategory(jsonfields::text(object, keys.category));
-    curve.setStreamX(jsonfields::text(object, keys.streamX));
-    curve.setStreamY(jsonfields::text(object, keys.streamY));
-    curve.setType(jsonfields::text(object, keys.type));
+    curve.setTitle(fields.text(keys.title));
+    curve.setCategory(fields.text(keys.category));
+    curve.setStreamX(fields.text(keys.streamX));
+    curve.setStreamY(fields.text(keys.streamY));
+    curve.setType(fields.text(keys.type));
 }
 
 template <typename Curve>
@@ -50,10 +50,9 @@ template <typename Curve>
 void appendFromConfiguration(QList<Curve>& curves, const QJsonArray& array)
 {
     curves.reserve(curves.size() + array.size());
-    for (const auto& element : array) {
-        Curve curve;
-        readTexts(curve, element.toObject(), ConfigurationKeys);
-        curves.append(curve);
+    const auto elements = QCborArray::fromJsonArray(array);
+    for (const auto& element : elements) {
+        readTexts(curves.emplaceBack(), JsonFields(element), ConfigurationKeys);
     }
 }
 
