@@ -35,13 +35,18 @@ need_to_test() {
     need clang-format python3
 }
 
+# Whether PRESET is configured with all that is installed now, as the presets stand now.
+is_configured() {
+    [ -z "$configure_again" ] && [ "build/$1/build.ninja" -nt CMakePresets.json ]
+}
+
 # build PRESET [TARGET...]: configures the preset if it is not, and builds it; what went wrong is shown, and only that.
 build() {
     local preset=$1 log
     shift
     log=$(mktemp)
     if ! {
-        { [ -z "$configure_again" ] && [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
+        { is_configured "$preset" || cmake --preset "$preset"; } &&
             cmake --build "build/$preset" ${1:+--target "$@"}
     } >"$log" 2>&1; then
         cat "$log" >&2

@@ -11,7 +11,6 @@
 
 #include <optional>
 #include <utility>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -123,19 +122,19 @@ bool AxesCombinationManager::readAxesCombinations(const QJsonObject& root, QStri
 bool AxesCombinationManager::readAxesCombination(const QJsonObject& entry, QString& error)
 {
     const JsonFields fields(entry);
-    if (!fields.hasArray(XKey)) {
+    const QCborValue x = fields.value(XKey);
+    if (!x.isArray()) {
         error = UnexpectedX;
         return false;
     }
-    const QCborArray xReferences = fields.array(XKey);
+    const QCborArray xReferences = x.toArray();
     const QCborArray yReferences = fields.array(YKey);
     const ClConfigDataArrayManager& catalogue =
         lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
 
     // Resolved and read when they are first needed, which decides what is appended before a failure and which failure
     // comes first; kept from then on, since neither can change from pair to pair.
-    std::vector<NamedArrays> yArrays;
-    yArrays.reserve(static_cast<size_t>(yReferences.size()));
+    QVarLengthArray<NamedArrays, 16> yArrays;
     std::optional<PlotDefaults> defaults;
 
     for (const auto& xReference : xReferences) {
@@ -143,7 +142,7 @@ bool AxesCombinationManager::readAxesCombination(const QJsonObject& entry, QStri
         if (!xArrays) {
             return false;
         }
-        size_t y = 0;
+        qsizetype y = 0;
         for (const auto& yReference : yReferences) {
             if (y == yArrays.size()) {
                 auto resolved = resolveReference(catalogue, JsonFields(yReference), UnknownY, error);

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr size_t FirstSlots = 64;
+constexpr size_t FirstSlots = 256;
 
 /// Spreads the pairs of small numbers over \p places, a power of two.
 size_t spread(qint32 x, qint32 y, size_t places)

@@ -48,8 +48,8 @@ bool UIConfig::readRecipeCommandConfig(QJsonValue recipe, const QString& command
         item.setType(command);
         item.setUiTitle(entry.text(TitleKey));
         for (const QLatin1StringView key : ParameterKeys) {
-            if (entry.hasText(key)) {
-                item.addParameter(entry.text(key));
+            if (const QCborValue parameter = entry.value(key); parameter.isString()) {
+                item.addParameter(parameter.toString());
             }
         }
     }

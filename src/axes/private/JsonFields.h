@@ -25,35 +25,12 @@ public:
     {
     }
 
-    QString text(QLatin1StringView key) const
-    {
-        const auto member = m_members.constFind(key);
-        return member == m_members.constEnd() ? QString() : member.value().toString();
-    }
+    /// What is under \p key, undefined if it is missing.
+    QCborValue value(QLatin1StringView key) const { return m_members.value(key); }
 
-    bool flag(QLatin1StringView key) const
-    {
-        const auto member = m_members.constFind(key);
-        return member != m_members.constEnd() && member.value().toBool();
-    }
-
-    bool hasArray(QLatin1StringView key) const
-    {
-        const auto member = m_members.constFind(key);
-        return member != m_members.constEnd() && member.value().isArray();
-    }
-
-    bool hasText(QLatin1StringView key) const
-    {
-        const auto member = m_members.constFind(key);
-        return member != m_members.constEnd() && member.value().isString();
-    }
-
-    QCborArray array(QLatin1StringView key) const
-    {
-        const auto member = m_members.constFind(key);
-        return member == m_members.constEnd() ? QCborArray() : member.value().toArray();
-    }
+    QString text(QLatin1StringView key) const { return value(key).toString(); }
+    bool flag(QLatin1StringView key) const { return value(key).toBool(); }
+    QCborArray array(QLatin1StringView key) const { return value(key).toArray(); }
 
     /// The texts of the array \p key in order; an element that is not a string gives an empty text in its place.
     QList<QString> texts(QLatin1StringView key) const
