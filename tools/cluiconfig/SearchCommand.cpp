@@ -3,6 +3,7 @@
 #include <search/FtsStrategy.h>
 #include <search/TechniqueSearchStrategy.h>
 
+#include <QByteArray>
 #include <QFile>
 
 #include <algorithm>
@@ -10,7 +11,6 @@
 #include <cerrno>
 #include <charconv>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <string>
@@ -68,55 +68,23 @@ void useBytes()
     throw CLI::RuntimeError(ExitCannotRun);
 }
 
-/// The input as one piece of memory that is only as large as it needs to be and is not cleared before it is read into.
-struct Input
+/// All bytes of the file that \p options name; without one, those of standard input or, at a terminal, of the shipped
+/// list.
+QByteArray readInput(const SearchOptions& options)
 {
-    std::unique_ptr<char, decltype(&std::free)> bytes{nullptr, &std::free};
-    std::size_t size = 0;
-
-    std::string_view text() const { return {bytes.get(), size}; }
-};
-
-/// \p name is for the message when reading fails.
-Input readAll(std::FILE* file, const std::string& name)
-{
-    Input input;
-    std::size_t capacity = 0;
-    for (;;) {
-        if (input.size == capacity) {
-            capacity = std::max<std::size_t>(std::size_t{1} << 20, 2 * capacity);
-            auto* larger = static_cast<char*>(std::realloc(input.bytes.get(), capacity));
-            if (larger == nullptr) {
-                fail(name, "too large for the memory");
-            }
-            static_cast<void>(input.bytes.release());
-            input.bytes.reset(larger);
-        }
-        const std::size_t count = std::fread(input.bytes.get() + input.size, 1, capacity - input.size, file);
-        input.size += count;
-        if (count == 0) {
-            break;
-        }
+    const bool isNamed = !options.file.empty();
+    const bool isShipped = !isNamed && isTerminal(stdin);
+    const std::string name = isNamed ? options.file : isShipped ? TechniqueList : "standard input";
+    QFile file(QString::fromStdString(name));
+    constexpr auto Mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
+    if (!(isNamed || isShipped ? file.open(Mode) : file.open(stdin, Mode))) {
+        fail(name, file.errorString().toStdString());
     }
-    if (std::ferror(file) != 0) {
-        fail(name, std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): the program has one thread
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        fail(name, file.errorString().toStdString());
     }
-    return input;
-}
-
-Input readFile(const std::string& name)
-{
-#ifdef _WIN32
-    const std::unique_ptr<std::FILE, decltype(&std::fclose)> file(
-        _wfopen(QString::fromStdString(name).toStdWString().c_str(), L"rb"), &std::fclose);
-#else
-    const std::unique_ptr<std::FILE, decltype(&std::fclose)> file(std::fopen(name.c_str(), "rb"), &std::fclose);
-#endif
-    if (!file) {
-        fail(name, std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): the program has one thread
-    }
-    std::setvbuf(file.get(), nullptr, _IONBF, 0);
-    return readAll(file.get(), name);
+    return bytes;
 }
 
 /// A line ends with a line feed, which a carriage return may precede; the last one may lack it.
@@ -194,24 +162,8 @@ void print(const std::vector<FuzzyMatch>& matches, const std::vector<std::string
 void search(const SearchOptions& options)
 {
     useBytes();
-    Input input;
-    QByteArray shipped;
-    std::string_view text;
-    if (!options.file.empty()) {
-        input = readFile(options.file);
-        text = input.text();
-    } else if (isTerminal(stdin)) {
-        QFile list(QString::fromLatin1(TechniqueList));
-        if (!list.open(QIODevice::ReadOnly)) {
-            fail(TechniqueList, list.errorString().toStdString());
-        }
-        shipped = list.readAll();
-        text = std::string_view(shipped.constData(), static_cast<std::size_t>(shipped.size()));
-    } else {
-        input = readAll(stdin, "standard input");
-        text = input.text();
-    }
-    const std::vector<std::string_view> lines = splitLines(text);
+    const QByteArray bytes = readInput(options);
+    const std::vector<std::string_view> lines = splitLines({bytes.constData(), static_cast<std::size_t>(bytes.size())});
     print(options.strategy == TextStrategy ? FtsStrategy::rank(options.query, lines)
                                            : TechniqueSearchStrategy::rank(options.query, lines),
           lines, options);
