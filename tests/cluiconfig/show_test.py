@@ -2,6 +2,7 @@
 """Runs `cluiconfig show` as people do. usage: show_test.py PROGRAM SHIPPED_DOCUMENT"""
 
 import json
+import os
 import pathlib
 import subprocess
 import sys
@@ -63,6 +64,76 @@ class Show(unittest.TestCase):
                          [{"Table": "Per step", "Category": None, "Column": None, "Unit": None}])
         self.assertEqual([graph["Graph"] for graph in tables["Statistics graphs"]], ["Empty"])
 
+    def test_one_section_is_asked_for_by_its_key_or_by_a_heading(self):
+        everything = json.loads(cluiconfig("show", "--format", "json").stdout)
+        for name, headings in (("Colors", ["Palette", "Default colours"]), ("palette", ["Palette"]),
+                               ("dQ_dU", ["dQ/dU columns", "dQ/dU graph"]), ("Debug", ["Debug switches"])):
+            shown = json.loads(cluiconfig("show", "--section", name, "--format", "json").stdout)
+            self.assertEqual(shown, {heading: everything[heading] for heading in headings})
+        text = cluiconfig("show", str(SHIPPED), "--section", "Debug").stdout
+        self.assertEqual(text.splitlines()[0], "Debug switches (3)")
+
+    def test_every_section_of_the_document_can_be_asked_for(self):
+        for key in json.loads(SHIPPED.read_text(encoding="utf-8")):
+            if key != "Version":
+                self.assertEqual(cluiconfig("show", "--section", key).returncode, 0, key)
+
+    def test_unknown_section_gives_the_near_ones_and_exit_code_2(self):
+        result = cluiconfig("show", "--section", "Colours")
+        self.assertEqual((result.returncode, result.stdout, result.stderr),
+                         (2, "", 'There is no section "Colours". Did you mean "Colors"?\n'))
+        self.assertIn("The sections are: Axes combinations, ", cluiconfig("show", "--section", "0815").stderr)
+
+    @unittest.skipUnless(os.name == "posix", "needs a pseudo terminal")
+    def test_swatches_are_for_terminals_that_can_show_them(self):
+        black, orange = "\x1b[48;2;0;0;0m      \x1b[0m", "\x1b[48;5;214m      \x1b[0m"
+        self.assertIn(f"Black           #000000  {black}\r\n", self.on_terminal(COLORTERM="truecolor"))
+        self.assertIn(f"Black           #000000  {black}\r\n", self.on_terminal(COLORTERM="24bit"))
+        self.assertIn(f"Orange          #e69f00  {orange}\r\n", self.on_terminal(COLORTERM=""))
+        for without in ({"NO_COLOR": "1"}, {"TERM": "dumb"}):
+            self.assertNotIn("\x1b", self.on_terminal(COLORTERM="truecolor", **without))
+        self.assertNotIn("\x1b", cluiconfig("show", "--section", "Palette").stdout)
+
+    def on_terminal(self, **environment):
+        try:
+            controller, terminal = os.openpty()
+        except OSError as error:
+            self.skipTest(f"no pseudo terminal to be had here: {error}")
+        inherited = {name: value for name, value in os.environ.items() if name != "NO_COLOR"}
+        with os.fdopen(controller, "rb", buffering=0) as screen:
+            program = subprocess.Popen([PROGRAM, "show", "--section", "Palette"], stdout=terminal,
+                                       env={**inherited, "TERM": "xterm", **environment})
+            os.close(terminal)
+            output = b""
+            try:
+                while piece := screen.read(4096):
+                    output += piece
+            except OSError:  # how a terminal says that nobody writes to it any more
+                pass
+            self.assertEqual(program.wait(60), 0)
+        return output.decode()
+
+    def test_document_that_cannot_be_opened_gives_exit_code_2(self):
+        directory = str(self.path.parent)
+        for path, reason in ((directory, "it is a directory"), (str(self.path), "")):
+            result = cluiconfig("show", path)
+            self.assertEqual((result.returncode, result.stdout), (2, ""))
+            self.assertIn(f'Cannot open "{path}": {reason}', result.stderr)
+
+    @unittest.skipUnless(hasattr(os, "mkfifo"), "needs named pipes")
+    def test_pipe_is_refused_instead_of_waited_for(self):
+        os.mkfifo(self.path)
+        result = cluiconfig("show", str(self.path))
+        self.assertEqual((result.returncode, result.stdout), (2, ""))
+        self.assertIn("it is a pipe or a device", result.stderr)
+
+    @unittest.skipUnless(os.path.exists("/dev/full"), "needs /dev/full")
+    def test_output_that_cannot_be_written_is_an_error(self):
+        with open("/dev/full", "wb") as full:
+            result = subprocess.run([PROGRAM, "show"], stdout=full, stderr=subprocess.PIPE)
+        self.assertEqual(result.returncode, 2)
+        self.assertIn(b"standard output", result.stderr)
+
     def test_refused_document_gives_the_message_of_the_loader_and_exit_code_1(self):
         document = json.loads(SHIPPED.read_text(encoding="utf-8"))
         del document["Colors"]
@@ -85,7 +156,8 @@ class Show(unittest.TestCase):
             self.assertNotEqual(result.stderr, "")
 
     def test_help_and_version_are_answers(self):
-        self.assertIn("format version 29", cluiconfig("--version").stdout)
+        version = json.loads(SHIPPED.read_text(encoding="utf-8"))["Version"]
+        self.assertIn(f"format version {version}", cluiconfig("--version").stdout)
         self.assertIn("--format", cluiconfig("show", "--help").stdout)
 
 

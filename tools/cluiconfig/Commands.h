@@ -10,7 +10,9 @@ namespace cluiconfig {
 constexpr int ExitRefused = 1; ///< The document is refused, or something in it fails.
 constexpr int ExitCannotRun = 2; ///< The command could not do its work: wrong arguments, an unreadable file.
 
+void addAxesCommand(CLI::App& program);
 void addSearchCommand(CLI::App& program);
 void addShowCommand(CLI::App& program);
+void addUnitsCommand(CLI::App& program);
 
 } // namespace cluiconfig

@@ -8,6 +8,8 @@
 
 #include <QJsonArray>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using cl::batterydata::ClConfigDataArray;
 using cl::datastorage::Converter;
@@ -15,11 +17,6 @@ using cl::datastorage::Converter;
 namespace cluiconfig {
 
 namespace {
-
-QString scaleText(QCPAxis::ScaleType scale)
-{
-    return scale == QCPAxis::stLinear ? u"linear"_s : u"logarithmic"_s;
-}
 
 Table axesTable(const UIConfig& config)
 {
@@ -101,6 +98,7 @@ Table summaryTable(const UIConfig& config)
 Table paletteTable(const UIConfig& config)
 {
     Table table{u"Palette"_s, {u"Name"_s, u"Colour"_s}, {}};
+    table.endsInColors = true;
     for (const auto& [name, color] : config.getCustomColors()) {
         table.rows.append({name, color.isValid() ? color.name() : u"(invalid)"_s});
     }
@@ -110,6 +108,7 @@ Table paletteTable(const UIConfig& config)
 Table defaultColorsTable(const UIConfig& config, const QJsonObject& root)
 {
     Table table{u"Default colours"_s, {u"Element"_s, u"Colour"_s}, {}};
+    table.endsInColors = true;
     const QStringList elements = root.value("Colors"_L1).toObject().value("Default colors"_L1).toObject().keys();
     for (const QString& element : elements) {
         QColor color;
@@ -221,25 +220,34 @@ Table debugTable(const UIConfig& config)
 
 } // namespace
 
+QString scaleText(QCPAxis::ScaleType scale)
+{
+    return scale == QCPAxis::stLinear ? u"linear"_s : u"logarithmic"_s;
+}
+
 QList<Table> documentTables(UIConfig& config, const QJsonObject& root)
 {
-    return {
-        axesTable(config),
-        representationsTable(config),
-        unitsTable(config),
-        filtersTable(config),
-        summaryTable(config),
-        paletteTable(config),
-        defaultColorsTable(config, root),
-        curvesTable(u"Statistics graphs"_s, config.getStatsGraph()),
-        curvesTable(u"Ragone plots"_s, config.getRagonePlotGraph()),
-        processedDataTable(config),
-        recipeTable(config, root),
-        formulasTable(config),
-        dQdUColumnsTable(config),
-        dQdUGraphTable(config),
-        debugTable(config),
+    QList<Table> tables;
+    const auto append = [&tables](QLatin1StringView section, Table table) {
+        table.section = section;
+        tables.append(std::move(table));
     };
+    append("Axes combinations"_L1, axesTable(config));
+    append("Representations"_L1, representationsTable(config));
+    append("MSVUnits"_L1, unitsTable(config));
+    append("Filters"_L1, filtersTable(config));
+    append("Tools"_L1, summaryTable(config));
+    append("Colors"_L1, paletteTable(config));
+    append("Colors"_L1, defaultColorsTable(config, root));
+    append("Statistics"_L1, curvesTable(u"Statistics graphs"_s, config.getStatsGraph()));
+    append("Ragone Plot"_L1, curvesTable(u"Ragone plots"_s, config.getRagonePlotGraph()));
+    append("Processed Data"_L1, processedDataTable(config));
+    append("Recipe"_L1, recipeTable(config, root));
+    append("Process Formula"_L1, formulasTable(config));
+    append("dQ_dU"_L1, dQdUColumnsTable(config));
+    append("dQ_dU"_L1, dQdUGraphTable(config));
+    append("Debug"_L1, debugTable(config));
+    return tables;
 }
 
 } // namespace cluiconfig

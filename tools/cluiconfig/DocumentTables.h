@@ -4,10 +4,16 @@
 
 #include <QJsonObject>
 #include <QList>
+#include <QString>
+
+#include <qcustomplot.h>
 
 class UIConfig;
 
 namespace cluiconfig {
+
+/// "linear" or "logarithmic".
+QString scaleText(QCPAxis::ScaleType scale);
 
 /// What the getters of \p config answer, a table a section (two where a section holds two lists), in the order of the
 /// document's sections.

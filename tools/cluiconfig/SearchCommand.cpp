@@ -1,4 +1,5 @@
 #include "Commands.h"
+#include "Output.h"
 
 #include <search/FtsStrategy.h>
 #include <search/TechniqueSearchStrategy.h>
@@ -17,14 +18,6 @@
 #include <string_view>
 #include <vector>
 
-#ifdef _WIN32
-#include <fcntl.h>
-#include <io.h>
-#else
-#include <csignal>
-#include <unistd.h>
-#endif
-
 namespace cluiconfig {
 
 namespace {
@@ -42,32 +35,6 @@ struct SearchOptions
     bool scores = false;
 };
 
-bool isTerminal(std::FILE* file)
-{
-#ifdef _WIN32
-    return _isatty(_fileno(file)) != 0;
-#else
-    return isatty(fileno(file)) != 0;
-#endif
-}
-
-/// Bytes are bytes: no translation of line ends, and a reader that goes away is an error of writing, not a signal.
-void useBytes()
-{
-#ifdef _WIN32
-    _setmode(_fileno(stdin), _O_BINARY);
-    _setmode(_fileno(stdout), _O_BINARY);
-#else
-    std::signal(SIGPIPE, SIG_IGN);
-#endif
-}
-
-[[noreturn]] void fail(const std::string& what, const std::string& why)
-{
-    std::fprintf(stderr, "%s: %s\n", what.c_str(), why.c_str());
-    throw CLI::RuntimeError(ExitCannotRun);
-}
-
 /// All bytes of the file that \p options name; without one, those of standard input or, at a terminal, of the shipped
 /// list.
 QByteArray readInput(const SearchOptions& options)
@@ -78,11 +45,11 @@ QByteArray readInput(const SearchOptions& options)
     QFile file(QString::fromStdString(name));
     constexpr auto Mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
     if (!(isNamed || isShipped ? file.open(Mode) : file.open(stdin, Mode))) {
-        fail(name, file.errorString().toStdString());
+        fail(name + ": " + file.errorString().toStdString());
     }
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
-        fail(name, file.errorString().toStdString());
+        fail(name + ": " + file.errorString().toStdString());
     }
     return bytes;
 }
@@ -155,7 +122,7 @@ void print(const std::vector<FuzzyMatch>& matches, const std::vector<std::string
     }
     const bool written = output.flush();
     if (!written && errno != EPIPE) {
-        fail("standard output", std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): the program has one thread
+        fail(std::string("standard output: ") + std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): one thread
     }
 }
 

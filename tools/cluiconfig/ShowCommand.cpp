@@ -1,13 +1,11 @@
 #include "Commands.h"
+#include "DocumentFile.h"
 #include "DocumentTables.h"
+#include "NearMiss.h"
+#include "Output.h"
 
 #include <config/UIConfig.h>
-#include <datastorage/JsonUtils.h>
 
-#include <QJsonArray>
-#include <QJsonDocument>
-
-#include <cstdio>
 #include <memory>
 #include <string>
 
@@ -17,48 +15,44 @@ namespace cluiconfig {
 
 namespace {
 
-constexpr auto ShippedDocument = ":/cluiconfig/UIConfig.json";
-
 struct ShowOptions
 {
     std::string document = ShippedDocument;
-    std::string format = "text";
+    std::string section;
+    TableFormat format;
 };
 
-QByteArray asText(const QList<Table>& tables)
+/// The tables that \p name names, by their heading or by the key of their section.
+QList<Table> chosen(const QList<Table>& tables, const QString& name)
 {
-    QString text;
+    QList<Table> found;
+    QStringList known;
     for (const Table& table : tables) {
-        if (!text.isEmpty()) {
-            text += u'\n';
+        if (table.name.compare(name, Qt::CaseInsensitive) == 0
+            || table.section.compare(name, Qt::CaseInsensitive) == 0) {
+            found.append(table);
         }
-        text += toText(table);
+        known << table.section << table.name;
     }
-    return text.toUtf8();
-}
-
-QByteArray asJson(const QList<Table>& tables)
-{
-    QJsonObject object;
-    for (const Table& table : tables) {
-        object.insert(table.name, toJson(table));
+    known.removeDuplicates();
+    if (found.isEmpty()) {
+        const QString near = didYouMean(name, known);
+        fail((u"There is no section \"%1\"."_s.arg(name)
+              + (near.isEmpty() ? u" The sections are: "_s + known.join(u", "_s) : near))
+                 .toStdString());
     }
-    return QJsonDocument(object).toJson();
+    return found;
 }
 
 void show(const ShowOptions& options)
 {
     auto& config = lumo::tools::Singleton<UIConfig>::instance();
-    const QString path = QString::fromStdString(options.document);
-    QString error;
-    QJsonObject root;
-    if (!config.readUIConfiguration(path, error) || !cl::datastorage::JsonUtils::openJsonDocument(path, error, root)) {
-        std::fprintf(stderr, "%s\n", qUtf8Printable(error));
-        throw CLI::RuntimeError(ExitRefused);
+    const QJsonObject root = loadDocument(QString::fromStdString(options.document), config);
+    QList<Table> tables = documentTables(config, root);
+    if (!options.section.empty()) {
+        tables = chosen(tables, QString::fromStdString(options.section));
     }
-    const QList<Table> tables = documentTables(config, root);
-    const QByteArray output = options.format == "json" ? asJson(tables) : asText(tables);
-    std::fwrite(output.constData(), 1, static_cast<size_t>(output.size()), stdout);
+    print(options.format(tables));
 }
 
 } // namespace
@@ -70,9 +64,18 @@ void addShowCommand(CLI::App& program)
         "show", "Load a document as the application does and print, section by section, what it gives.");
     command->add_option("DOCUMENT", options->document, "The document; the shipped one when none is named.")
         ->default_str("the shipped document");
-    command->add_option("--format", options->format, "Aligned text for people, or JSON for programs.")
-        ->check(CLI::IsMember({"text", "json"}))
-        ->capture_default_str();
+    command->add_option("--section", options->section,
+                        "Print one section only: its key in the document, or the heading of one of its tables.");
+    options->format.addTo(*command);
+    command->footer(R"(On a terminal, colours are shown beside their names unless NO_COLOR is set.
+
+Examples:
+  cluiconfig show                              the shipped document
+  cluiconfig show my.json --section Colors     the palette and the default colours
+  cluiconfig show my.json --section Palette    the palette alone
+  cluiconfig show my.json --format json        all of it, for a program
+
+Exit code: 0, 1 when the application would refuse the document, 2 when it cannot be read.)");
     command->callback([options] { show(*options); });
 }
 

@@ -1,6 +1,8 @@
 #include "Table.h"
 
+#include <QColor>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -27,7 +29,30 @@ QString cellText(const QJsonValue& value)
         }
         return parts.join(u", "_s);
     }
+    if (value.isDouble()) {
+        return QString::number(value.toInteger());
+    }
     return value.isNull() ? u"(unknown)"_s : value.toString();
+}
+
+/// The number among a terminal's 256 colours of the one nearest to \p color in the cube of six steps a channel.
+int paletteIndex(const QColor& color)
+{
+    const auto step = [](int channel) { return (channel * 5 + 127) / 255; };
+    return 16 + 36 * step(color.red()) + 6 * step(color.green()) + step(color.blue());
+}
+
+/// Blanks on the colour that \p name names ("#0072b2"), set off from the name; empty where it names none.
+QString swatch(const QString& name, ColorDepth colors)
+{
+    const QColor color(name);
+    if (colors == ColorDepth::None || !color.isValid()) {
+        return {};
+    }
+    const QString background = colors == ColorDepth::TrueColor
+        ? u"2;%1;%2;%3"_s.arg(color.red()).arg(color.green()).arg(color.blue())
+        : u"5;%1"_s.arg(paletteIndex(color));
+    return u"  \x1b[48;"_s + background + u"m      \x1b[0m"_s;
 }
 
 QList<QStringList> textRows(const Table& table)
@@ -54,7 +79,7 @@ QList<QStringList> textRows(const Table& table)
 
 } // namespace
 
-QString toText(const Table& table)
+QString toText(const Table& table, ColorDepth colors)
 {
     QList<QStringList> lines = textRows(table);
     lines.prepend(table.columns);
@@ -75,7 +100,8 @@ QString toText(const Table& table)
         for (qsizetype i = 0; i < line.size(); ++i) {
             row += line.at(i).leftJustified(widths.at(i)) + Gap;
         }
-        text += row.trimmed().prepend(Indent) + u'\n';
+        text +=
+            row.trimmed().prepend(Indent) + (table.endsInColors ? swatch(line.constLast(), colors) : QString()) + u'\n';
     }
     return text;
 }
@@ -91,6 +117,29 @@ QJsonValue toJson(const Table& table)
         array.append(object);
     }
     return array;
+}
+
+void TableFormat::addTo(CLI::App& command)
+{
+    command.add_option("--format", name, "Aligned text for people, or JSON for programs.")
+        ->check(CLI::IsMember({"text", "json"}))
+        ->capture_default_str();
+}
+
+QByteArray TableFormat::operator()(const QList<Table>& tables) const
+{
+    if (name == "json") {
+        QJsonObject object;
+        for (const Table& table : tables) {
+            object.insert(table.name, toJson(table));
+        }
+        return QJsonDocument(object).toJson();
+    }
+    QStringList texts;
+    for (const Table& table : tables) {
+        texts.append(toText(table, colorDepth()));
+    }
+    return texts.join(u'\n').toUtf8();
 }
 
 } // namespace cluiconfig

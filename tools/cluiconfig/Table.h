@@ -1,9 +1,14 @@
 #pragma once
 
+#include "Output.h"
+
+#include <QByteArray>
 #include <QJsonValue>
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+#include <string>
 
 namespace cluiconfig {
 
@@ -15,12 +20,25 @@ struct Table
     QList<QList<QJsonValue>> rows; ///< One value a column each.
     /// In text, rows that stand together and differ only in this column become one, its values joined by commas.
     qsizetype joinedColumn = -1;
+    bool endsInColors = false; ///< The last column holds names of colours, such as "#0072b2".
+    QString section = {}; ///< The key of the document's section that the rows come from; empty where there is none.
 };
 
-/// The heading with the number of rows, and the rows below it, columns aligned and separated by two blanks.
-QString toText(const Table& table);
+/// The heading with the number of rows, and the rows below it, columns aligned and separated by two blanks. Names of
+/// colours are followed by a swatch where \p colors are to be had.
+QString toText(const Table& table, ColorDepth colors = ColorDepth::None);
 
 /// An array with one object a row, the columns as keys.
 QJsonValue toJson(const Table& table);
+
+/// The options of a command that prints tables, and what it prints: aligned text, an empty line between two tables, or
+/// one JSON object with an array a table.
+struct TableFormat
+{
+    std::string name = "text";
+
+    void addTo(CLI::App& command);
+    QByteArray operator()(const QList<Table>& tables) const;
+};
 
 } // namespace cluiconfig

@@ -1,4 +1,8 @@
 #include "Commands.h"
+#include "DocumentFile.h"
+#include "Output.h"
+
+#include <batterydata/RawDataCollection.h>
 
 #include <QCoreApplication>
 
@@ -21,6 +25,17 @@ std::vector<std::string> reversedArguments()
     return arguments;
 }
 
+/// From now on every document is read with the data arrays of the catalogue file \p path.
+void useCatalogue(const std::string& path)
+{
+    auto& catalogue = lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
+    QString error;
+    cluiconfig::requireReadableFile(QString::fromStdString(path));
+    if (!catalogue.readCatalogue(QString::fromStdString(path), error)) {
+        cluiconfig::fail(error.toStdString());
+    }
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -33,7 +48,13 @@ int main(int argc, char* argv[])
                      "cluiconfig");
     program.require_subcommand(1);
     program.set_version_flag("--version", "cluiconfig " CLCONFIGUI_VERSION ", UIConfig.json format version 29");
+    program.fallthrough();
+    program.add_option_function<std::string>("--catalogue", useCatalogue,
+                                             "The catalogue of data arrays to go by, a file in the form of "
+                                             "data/DataArrays.json; the shipped one when none is named.");
     cluiconfig::addShowCommand(program);
+    cluiconfig::addAxesCommand(program);
+    cluiconfig::addUnitsCommand(program);
     cluiconfig::addSearchCommand(program);
     try {
         program.parse(reversedArguments());

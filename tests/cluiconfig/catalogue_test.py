@@ -1,0 +1,44 @@
+#!/usr/bin/env python3
+"""Runs cluiconfig with a catalogue of data arrays of one's own. usage: catalogue_test.py PROGRAM SHIPPED_DOCUMENT"""
+
+import program
+
+
+class Catalogue(program.TestCase):
+    def catalogue(self, *names):
+        return self.file("arrays.json", {"Version": 1, "Categories": [
+            {"Name": "Bench", "Arrays": [{"Name": name, "Parameter": "Voltage", "Unit": "V"} for name in names]}]})
+
+    def document(self):
+        document = program.shipped()
+        document["Axes combinations"] = [
+            {"X": [{"Name": "Probe 1 / V"}], "Y1/Y2": [{"Name": "Probe 2 / V"}], "DEFAULT_SCALE_X": "LINEAR",
+             "DEFAULT_SCALE_Y": "LINEAR", "ORTHONORMAL_AXIS": "FALSE"}]
+        document["Representations"] = []
+        return self.file("document.json", document)
+
+    def test_documents_are_read_with_the_arrays_of_the_catalogue(self):
+        catalogue = self.catalogue("Probe 1 / V", "Probe 2 / V")
+        for arguments in (["--catalogue", catalogue, "axes", self.document()],
+                          ["axes", self.document(), "--catalogue", catalogue]):
+            self.assertEqual(self.tables(*arguments), {"X axes": [{"X": "Probe 1 / V", "Y axes against it": 1}]})
+        self.assertEqual(self.tables("axes", self.document()), {"X axes": []})
+
+    def test_shipped_catalogue_is_what_stands_without_one(self):
+        catalogue = str(program.SHIPPED.parent / "DataArrays.json")
+        self.assertEqual(self.output("--catalogue", catalogue, "show"), self.output("show"))
+
+    def test_catalogue_that_cannot_be_used_is_named_with_exit_code_2(self):
+        wrong = self.file("wrong.json", {"Version": 1, "Categories": [{"Name": "Bench", "Arrays": [{}]}]})
+        for path, reason in ((wrong, '"Name" is missing or empty (at /Categories/0/Arrays/0)'),
+                             (self.file("text.json", "{]"), "is not valid JSON: line 1, column 2"),
+                             (str(program.SHIPPED), "The format version is 29: expected 1"),
+                             (str(self.directory), "it is a directory"),
+                             (str(self.directory / "missing"), "Cannot open")):
+            message = self.message(2, "--catalogue", path, "show")
+            self.assertIn(path, message)
+            self.assertIn(reason, message)
+
+
+if __name__ == "__main__":
+    program.main()

@@ -1,0 +1,56 @@
+"""What the tests of cluiconfig share: the program, the shipped documents, and a directory for each test."""
+
+import json
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PROGRAM = ""
+SHIPPED = pathlib.Path()  # the shipped document; its catalogue stands beside it
+
+
+def main():
+    """Runs the tests of the calling script. usage: SCRIPT PROGRAM SHIPPED_DOCUMENT [TEST...]"""
+    global PROGRAM, SHIPPED
+    PROGRAM, SHIPPED = sys.argv[1], pathlib.Path(sys.argv[2])
+    unittest.main(module="__main__", argv=sys.argv[:1] + sys.argv[3:])
+
+
+def shipped():
+    return json.loads(SHIPPED.read_text(encoding="utf-8"))
+
+
+class TestCase(unittest.TestCase):
+    def setUp(self):
+        directory = tempfile.TemporaryDirectory()
+        self.addCleanup(directory.cleanup)
+        self.directory = pathlib.Path(directory.name)
+
+    def file(self, name, content):
+        """A file of the test's own, with bytes, a text, or what json.dumps() makes of anything else."""
+        path = self.directory / name
+        if not isinstance(content, (bytes, str)):
+            content = json.dumps(content)
+        path.write_bytes(content if isinstance(content, bytes) else content.encode())
+        return str(path)
+
+    def run_program(self, *arguments, **options):
+        return subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, encoding="utf-8", timeout=120,
+                              **options)
+
+    def output(self, *arguments):
+        """What the program prints when nothing is wrong."""
+        result = self.run_program(*arguments)
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        return result.stdout
+
+    def tables(self, *arguments):
+        return json.loads(self.output(*arguments, "--format", "json"))
+
+    def message(self, exit_code, *arguments, **options):
+        """What the program says when it refuses, which is all that it says."""
+        result = self.run_program(*arguments, **options)
+        self.assertEqual((result.returncode, result.stdout), (exit_code, ""))
+        return result.stderr

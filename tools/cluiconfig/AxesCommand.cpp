@@ -1,0 +1,156 @@
+#include "Commands.h"
+#include "DocumentFile.h"
+#include "DocumentTables.h"
+#include "NearMiss.h"
+#include "Output.h"
+
+#include <config/ConfigRepresentation.h>
+#include <config/UIConfig.h>
+
+#include <QFileInfo>
+
+#include <memory>
+#include <string>
+
+using namespace Qt::StringLiterals;
+
+namespace cluiconfig {
+
+namespace {
+
+struct AxesOptions
+{
+    std::string first;
+    std::string second;
+    std::string third;
+    TableFormat format;
+};
+
+/// What the words of the command line stand for.
+struct Question
+{
+    QString document = QString::fromLatin1(ShippedDocument);
+    QString x;
+    QString y;
+};
+
+/// A name of a data array neither ends in ".json" nor is there a file of that name.
+bool isDocument(const QString& word)
+{
+    return word.endsWith(u".json"_s, Qt::CaseInsensitive) || QFileInfo::exists(word);
+}
+
+Question questionFrom(const AxesOptions& options)
+{
+    QStringList words;
+    for (const std::string& word : {options.first, options.second, options.third}) {
+        words.append(QString::fromStdString(word));
+    }
+    Question question;
+    if (!words.at(2).isEmpty() || isDocument(words.at(0))) {
+        question.document = words.takeFirst();
+    }
+    question.x = words.at(0);
+    question.y = words.at(1);
+    return question;
+}
+
+[[noreturn]] void failUnknown(const QString& sentence, const QString& name, const QStringList& known)
+{
+    fail((sentence + didYouMean(name, known)).toStdString(), ExitRefused);
+}
+
+QList<Table> xAxes(const AxesCombinationManager& manager)
+{
+    Table table{u"X axes"_s, {u"X"_s, u"Y axes against it"_s}, {}};
+    const QStringList names = manager.getXAxesNames();
+    for (const QString& x : names) {
+        table.rows.append({x, manager.getYAxesNames(x).size()});
+    }
+    return {table};
+}
+
+QList<Table> yAxes(const AxesCombinationManager& manager, const QString& x)
+{
+    Table table{u"Y axes against %1"_s.arg(x), {u"Y"_s}, {}};
+    const QStringList names = manager.getYAxesNames(x);
+    if (names.isEmpty()) {
+        failUnknown(u"No axes combination has \"%1\" on its X axis."_s.arg(x), x, manager.getXAxesNames());
+    }
+    for (const QString& y : names) {
+        table.rows.append({y});
+    }
+    return {table};
+}
+
+QList<Table> pair(const UIConfig& config, const QString& x, const QString& y)
+{
+    const AxesCombinationManager& manager = config.getAxesCombinationManager();
+    const QList<Table> against = yAxes(manager, x);
+    const AxesCombination taken = manager.getAxesCombination(x, y);
+    if (!taken.isValid()) {
+        failUnknown(u"No axes combination has \"%1\" on its X axis and \"%2\" on its Y axis."_s.arg(x, y), y,
+                    manager.getYAxesNames(x));
+    }
+
+    Table combinations{u"Combinations"_s,
+                       {u"X"_s, u"Y"_s, u"Category"_s, u"X scale"_s, u"Y scale"_s, u"Orthonormal"_s, u"Taken"_s},
+                       {}};
+    const QList<AxesCombination> candidates = manager.getAxesCombinations(x);
+    for (AxesCombination combination : candidates) {
+        if (combination.getConfigY().getName() == y) {
+            combinations.rows.append({x, y, combination.getConfigX().getCategory(),
+                                      scaleText(combination.getDefaultScaleX()),
+                                      scaleText(combination.getDefaultScaleY()), combination.isOrthonormal(),
+                                      combinations.rows.isEmpty()}); // a lookup by names takes the first
+        }
+    }
+
+    Table representations{u"Representations"_s, {u"Name"_s, u"Has Y as"_s, u"Default"_s}, {}};
+    const auto all = config.getConfigRepresentationManager().getConfigRepresentationList();
+    for (const ConfigRepresentation* representation : all) {
+        if (representation->x() == x && (representation->y1() == y || representation->y2() == y)) {
+            representations.rows.append(
+                {representation->name(), representation->y1() == y ? u"Y1"_s : u"Y2"_s, representation->isDefault()});
+        }
+    }
+    return {combinations, representations};
+}
+
+void axes(const AxesOptions& options)
+{
+    auto& config = lumo::tools::Singleton<UIConfig>::instance();
+    const Question question = questionFrom(options);
+    loadDocument(question.document, config);
+    const AxesCombinationManager& manager = config.getAxesCombinationManager();
+    print(options.format(question.x.isEmpty()       ? xAxes(manager)
+                             : question.y.isEmpty() ? yAxes(manager, question.x)
+                                                    : pair(config, question.x, question.y)));
+}
+
+} // namespace
+
+void addAxesCommand(CLI::App& program)
+{
+    auto options = std::make_shared<AxesOptions>();
+    CLI::App* command = program.add_subcommand(
+        "axes", "What may be plotted against what: the X axes, the Y axes against one of them, or all about one pair.");
+    command->add_option("DOCUMENT", options->first,
+                        "The document; the shipped one when none is named. A first word is taken for a document when "
+                        "it ends in .json, when there is a file of that name, or when X and Y follow.");
+    command->add_option("X", options->second, "The data array on the X axis: print the Y axes against it.");
+    command->add_option("Y", options->third,
+                        "The data array on the Y axis: print the combination, and the representations that use it. "
+                        "Where several categories have the pair, the application takes the first.");
+    options->format.addTo(*command);
+    command->footer(R"(Examples:
+  cluiconfig axes                                        the X axes of the shipped document
+  cluiconfig axes "Test Time / s"                        the Y axes against one of them
+  cluiconfig axes "Test Time / s" "Voltage / V"          all about the pair
+  cluiconfig axes my.json "Test Time / s" "Voltage / V"  the same in a document of your own
+
+Exit code: 0, 1 when there is no such axis or the application would refuse the document, 2 when it cannot be read.)");
+    command->callback([options] { axes(*options); });
+}
+
+} // namespace cluiconfig

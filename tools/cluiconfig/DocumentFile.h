@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+
+class UIConfig;
+
+namespace cluiconfig {
+
+/// The path of the document that comes with the program.
+constexpr auto ShippedDocument = ":/cluiconfig/UIConfig.json";
+
+/// Ends the command with ExitCannotRun and one sentence unless \p path is a file that can be opened for reading. What
+/// is not a regular file is refused without being opened: reading a pipe may never end.
+void requireReadableFile(const QString& path);
+
+/// Loads \p path into \p config as the application does, and returns the document. Ends the command when there is no
+/// such file (ExitCannotRun), and with the loader's sentence when it refuses the document (ExitRefused).
+///
+/// REQUIRES: nothing has been loaded into \p config before.
+QJsonObject loadDocument(const QString& path, UIConfig& config);
+
+} // namespace cluiconfig

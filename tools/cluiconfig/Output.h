@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Commands.h"
+
+#include <QByteArray>
+
+#include <cstdio>
+#include <string>
+
+namespace cluiconfig {
+
+/// How many colours the reader of the output can show.
+enum class ColorDepth {
+    None, ///< Not a terminal, a terminal without colours, or the user wants none.
+    Palette, ///< The 256 colours that terminals number.
+    TrueColor, ///< Any colour.
+};
+
+/// Whether \p file is a terminal.
+bool isTerminal(std::FILE* file);
+
+/// What standard output can show: nothing unless it is a terminal, nor where NO_COLOR is set to anything. COLORTERM
+/// says whether the terminal takes any colour.
+ColorDepth colorDepth();
+
+/// Bytes are bytes: no translation of line ends, and a reader that goes away is an error of writing, not a signal.
+void useBytes();
+
+/// Writes all of \p bytes to standard output. Ends the command with ExitCannotRun when that is not possible; a reader
+/// that has gone away is no error.
+void print(const QByteArray& bytes);
+
+/// Ends the command: \p message goes to standard error, \p exitCode to the caller of the program.
+[[noreturn]] void fail(const std::string& message, int exitCode = ExitCannotRun);
+
+} // namespace cluiconfig

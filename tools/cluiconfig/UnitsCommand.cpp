@@ -1,0 +1,128 @@
+#include "Commands.h"
+#include "NearMiss.h"
+#include "Output.h"
+#include "Table.h"
+
+#include <config/UIFilteredUnits.h>
+#include <datastorage/Converter.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using cl::datastorage::Converter;
+using cl::datastorage::PhysicalParameter;
+using cl::datastorage::UsualUnit;
+using cl::datastorage::UsualUnitType;
+
+namespace cluiconfig {
+
+namespace {
+
+struct UnitsOptions
+{
+    std::string parameter;
+    TableFormat format;
+};
+
+bool isTime(UsualUnitType type)
+{
+    return Converter::getPhysicalParameterFromUnits(UsualUnit(type))
+        == Converter::getPhysicalParameterFromString(u"Time"_s);
+}
+
+/// Whether the user interface shows the type as a unit by itself.
+bool isShown(UsualUnitType type)
+{
+    const UsualUnit unit(type);
+    return UIFilteredUnits::getFilteredUnits(Converter::getPhysicalParameterFromUnits(unit)).contains(unit);
+}
+
+QString reasonAgainst(UsualUnitType type, bool isFirst)
+{
+    if (!isFirst && isTime(type)) {
+        return type == UsualUnitType::Second || type == UsualUnitType::Hour
+            ? QString()
+            : u"%1 stands behind an operator: of the times only s and h may"_s.arg(Converter::toString(type));
+    }
+    return isShown(type) ? QString() : u"%1 is not among the units that may be shown"_s.arg(Converter::toString(type));
+}
+
+/// Why the user interface does not show \p unit, by its first component that is in the way.
+///
+/// REQUIRES: it does not.
+QString reasonAgainst(const UsualUnit& unit)
+{
+    const std::pair<bool, UsualUnitType> parts[] = {{true, unit.getUnit1()},
+                                                    {unit.hasUnit2(), unit.getUnit2()},
+                                                    {unit.hasUnit3(), unit.getUnit3()},
+                                                    {unit.hasUnit4(), unit.getUnit4()}};
+    for (const auto& [isThere, type] : parts) {
+        const QString reason = isThere ? reasonAgainst(type, &type == &parts[0].second) : QString();
+        if (!reason.isEmpty()) {
+            return reason;
+        }
+    }
+    return u"%1 is a time at the fourth place"_s.arg(Converter::toString(unit.getUnit4()));
+}
+
+QList<Table> parameters()
+{
+    Table table{u"Physical parameters"_s, {u"Parameter"_s, u"Units"_s, u"Shown"_s}, {}};
+    const QStringList names = Converter::getPhysicalParameterNames();
+    for (const QString& name : names) {
+        const PhysicalParameter parameter = Converter::getPhysicalParameterFromString(name);
+        table.rows.append({name, Converter::getAvailableUnits(parameter).size(),
+                           UIFilteredUnits::getFilteredUnits(parameter).size()});
+    }
+    return {table};
+}
+
+QList<Table> unitsOf(const QString& name)
+{
+    const QStringList names = Converter::getPhysicalParameterNames();
+    if (!names.contains(name)) {
+        const QString near = didYouMean(name, names);
+        fail((u"There is no physical parameter \"%1\"."_s.arg(name)
+              + (near.isEmpty() ? u" \"cluiconfig units\" lists them."_s : near))
+                 .toStdString());
+    }
+    const PhysicalParameter parameter = Converter::getPhysicalParameterFromString(name);
+    const QList<UsualUnit> shown = UIFilteredUnits::getFilteredUnits(parameter);
+    Table table{u"Units of %1"_s.arg(name), {u"Unit"_s, u"Shown"_s, u"Why not"_s}, {}};
+    const QList<UsualUnit> units = Converter::getAvailableUnits(parameter);
+    for (const UsualUnit& unit : units) {
+        const bool isOffered = shown.contains(unit);
+        table.rows.append({Converter::toString(unit), isOffered, isOffered ? QString() : reasonAgainst(unit)});
+    }
+    return {table};
+}
+
+void units(const UnitsOptions& options)
+{
+    print(
+        options.format(options.parameter.empty() ? parameters() : unitsOf(QString::fromStdString(options.parameter))));
+}
+
+} // namespace
+
+void addUnitsCommand(CLI::App& program)
+{
+    auto options = std::make_shared<UnitsOptions>();
+    CLI::App* command = program.add_subcommand(
+        "units", "The units of a physical parameter, which of them the user interface shows, and why not the others.");
+    command->add_option("PARAMETER", options->parameter,
+                        "The parameter by its exact name, as in \"PhysicalParameter\" of a document. Without it, the "
+                        "parameters are listed.");
+    options->format.addTo(*command);
+    command->footer(R"(Examples:
+  cluiconfig units                                 all parameters, with the numbers of their units
+  cluiconfig units Voltage                         the units of one
+  cluiconfig units "Specific charge" --format json for a program
+
+Exit code: 0, 2 when there is no such parameter.)");
+    command->callback([options] { units(*options); });
+}
+
+} // namespace cluiconfig
