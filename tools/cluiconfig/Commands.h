@@ -11,6 +11,7 @@ constexpr int ExitRefused = 1; ///< The document is refused, or something in it 
 constexpr int ExitCannotRun = 2; ///< The command could not do its work: wrong arguments, an unreadable file.
 
 void addAxesCommand(CLI::App& program);
+void addDiffCommand(CLI::App& program);
 void addFormatCommand(CLI::App& program);
 void addSearchCommand(CLI::App& program);
 void addShowCommand(CLI::App& program);

@@ -55,6 +55,7 @@ int main(int argc, char* argv[])
     cluiconfig::addShowCommand(program);
     cluiconfig::addAxesCommand(program);
     cluiconfig::addUnitsCommand(program);
+    cluiconfig::addDiffCommand(program);
     cluiconfig::addFormatCommand(program);
     cluiconfig::addSearchCommand(program);
     try {

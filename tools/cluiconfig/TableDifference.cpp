@@ -1,0 +1,264 @@
+#include "TableDifference.h"
+
+#include <QHash>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace cluiconfig {
+
+namespace {
+
+constexpr qsizetype NoRow = -1;
+
+/// The rows of two tables, each with its partner in the other one if there is one.
+class Pairing
+{
+public:
+    Pairing(const TableIdentity& identity, const QJsonArray& before, const QJsonArray& after)
+        : m_before(before)
+        , m_after(after)
+        , m_ofBefore(before.size(), NoRow)
+        , m_ofAfter(after.size(), NoRow)
+    {
+        pairEqual([&](QJsonObject row) {
+            QJsonArray key;
+            for (const QString& column : identity.keys) {
+                key.append(row.value(column));
+            }
+            return key;
+        });
+        for (const QString& name : identity.names) {
+            pairEqual([&](QJsonObject row) {
+                row.remove(name);
+                return row;
+            });
+        }
+    }
+
+    const QList<qsizetype>& ofBefore() const { return m_ofBefore; }
+    const QList<qsizetype>& ofAfter() const { return m_ofAfter; }
+
+private:
+    /// Pairs the rows without partners that have equal \p keyOf, the first with the first.
+    template <typename KeyOf>
+    void pairEqual(KeyOf keyOf)
+    {
+        const auto textOf = [&](const QJsonValue& row) { return QJsonDocument(keyOf(row.toObject())).toJson(); };
+        QHash<QByteArray, QList<qsizetype>> rows; // last one first
+        for (qsizetype i = m_before.size() - 1; i >= 0; --i) {
+            if (m_ofBefore.at(i) == NoRow) {
+                rows[textOf(m_before.at(i))].append(i);
+            }
+        }
+        for (qsizetype i = 0; i < m_after.size(); ++i) {
+            if (m_ofAfter.at(i) == NoRow) {
+                const auto found = rows.find(textOf(m_after.at(i)));
+                if (found != rows.end() && !found->isEmpty()) {
+                    m_ofAfter[i] = found->takeLast();
+                    m_ofBefore[m_ofAfter.at(i)] = i;
+                }
+            }
+        }
+    }
+
+    const QJsonArray& m_before;
+    const QJsonArray& m_after;
+    QList<qsizetype> m_ofBefore;
+    QList<qsizetype> m_ofAfter;
+};
+
+/// The indices of \p places that are not part of its longest ascending sequence; NoRow counts for nothing.
+QList<qsizetype> outOfOrder(const QList<qsizetype>& places)
+{
+    QList<qsizetype> ends; // for each length, the index at which the sequence with the lowest end ends
+    QList<qsizetype> previous(places.size(), NoRow);
+    for (qsizetype i = 0; i < places.size(); ++i) {
+        if (places.at(i) == NoRow) {
+            continue;
+        }
+        const auto position = std::lower_bound(ends.begin(), ends.end(), i, [&](qsizetype end, qsizetype index) {
+            return places.at(end) < places.at(index);
+        });
+        if (position != ends.begin()) {
+            previous[i] = *std::prev(position);
+        }
+        if (position == ends.end()) {
+            ends.append(i);
+        } else {
+            *position = i;
+        }
+    }
+    QList<bool> isInOrder(places.size(), false);
+    for (qsizetype i = ends.isEmpty() ? NoRow : ends.constLast(); i != NoRow; i = previous.at(i)) {
+        isInOrder[i] = true;
+    }
+    QList<qsizetype> others;
+    for (qsizetype i = 0; i < places.size(); ++i) {
+        if (places.at(i) != NoRow && !isInOrder.at(i)) {
+            others.append(i);
+        }
+    }
+    return others;
+}
+
+QString valueText(const QJsonValue& value)
+{
+    if (value.isBool()) {
+        return value.toBool() ? u"yes"_s : u"no"_s;
+    }
+    if (value.isArray()) {
+        QStringList parts;
+        const QJsonArray array = value.toArray();
+        for (const auto& element : array) {
+            parts.append(valueText(element));
+        }
+        return u'[' + parts.join(u", "_s) + u']';
+    }
+    return value.isNull() ? u"(unknown)"_s : u'"' + value.toString() + u'"';
+}
+
+QString columnsText(const QStringList& columns, const QJsonObject& row)
+{
+    QStringList parts;
+    for (const QString& column : columns) {
+        parts.append(column + u' ' + valueText(row.value(column)));
+    }
+    return parts.join(u", "_s);
+}
+
+/// The columns of \p row that \p identity does not recognise it by.
+QStringList contentColumns(const TableIdentity& identity, const QJsonObject& row)
+{
+    QStringList columns = row.keys();
+    columns.removeIf([&](const QString& column) { return identity.keys.contains(column); });
+    return columns;
+}
+
+/// `  + Name "Nyquist plot": X "Frequency / Hz"`, of which the first or the second part may be missing.
+QString line(QChar sign, const QString& row, const QString& content)
+{
+    return u"  "_s + sign + u' ' + row + (row.isEmpty() || content.isEmpty() ? u""_s : u": "_s) + content + u'\n';
+}
+
+QJsonArray toArray(const QList<QJsonObject>& rows)
+{
+    QJsonArray array;
+    std::copy(rows.begin(), rows.end(), std::back_inserter(array));
+    return array;
+}
+
+} // namespace
+
+QList<TableIdentity> tableIdentities()
+{
+    return {
+        {u"Axes combinations"_s, {u"X"_s, u"Y"_s, u"Category"_s}, {}},
+        {u"Representations"_s, {u"Name"_s}, {u"Name"_s}},
+        {u"Compound units"_s, {u"Physical parameter"_s, u"Operator"_s}, {}},
+        {u"Skipped tasks"_s, {u"Task"_s}, {}},
+        {u"Summary table columns"_s, {u"Table"_s, u"Category"_s, u"Column"_s}, {}},
+        {u"Palette"_s, {u"Name"_s}, {u"Name"_s}},
+        {u"Default colours"_s, {u"Element"_s}, {}},
+        {u"Statistics graphs"_s, {u"Graph"_s, u"Curve"_s}, {u"Graph"_s, u"Curve"_s}},
+        {u"Ragone plots"_s, {u"Graph"_s, u"Curve"_s}, {u"Graph"_s, u"Curve"_s}},
+        {u"Processed-data graphs"_s, {u"Graph"_s}, {u"Graph"_s}},
+        {u"Recipe entries"_s, {u"Command"_s, u"Title"_s}, {u"Title"_s}},
+        {u"Process formulas"_s, {u"Axis"_s, u"Displayed"_s}, {u"Displayed"_s}},
+        {u"dQ/dU columns"_s, {u"Table"_s, u"Category"_s, u"Column"_s}, {}},
+        {u"dQ/dU graph"_s, {}, {}},
+        {u"Debug switches"_s, {u"Switch"_s}, {}},
+    };
+}
+
+TableDifference difference(const TableIdentity& identity, const QJsonArray& before, const QJsonArray& after)
+{
+    TableDifference result;
+    const Pairing pairing(identity, before, after);
+    for (qsizetype i = 0; i < before.size(); ++i) {
+        if (pairing.ofBefore().at(i) == NoRow) {
+            result.lost.append(before.at(i).toObject());
+        }
+    }
+    for (qsizetype i = 0; i < after.size(); ++i) {
+        const QJsonObject now = after.at(i).toObject();
+        const qsizetype partner = pairing.ofAfter().at(i);
+        if (partner == NoRow) {
+            result.gained.append(now);
+            continue;
+        }
+        const QJsonObject then = before.at(partner).toObject();
+        QList<TableDifference::Change> changes;
+        for (auto it = then.begin(); it != then.end(); ++it) {
+            if (it.value() != now.value(it.key())) {
+                changes.append({it.key(), it.value(), now.value(it.key())});
+            }
+        }
+        if (!changes.isEmpty()) {
+            result.changed.append({then, changes});
+        }
+    }
+    for (const qsizetype i : outOfOrder(pairing.ofAfter())) {
+        result.moved.append({after.at(i).toObject(), pairing.ofAfter().at(i) + 1, i + 1});
+    }
+    return result;
+}
+
+QString toText(const TableIdentity& identity, const TableDifference& difference)
+{
+    QStringList counts;
+    const auto count = [&counts](qsizetype number, const QString& what) {
+        if (number > 0) {
+            counts.append(QString::number(number) + u' ' + what);
+        }
+    };
+    count(difference.gained.size(), u"gained"_s);
+    count(difference.lost.size(), u"lost"_s);
+    count(difference.changed.size(), u"changed"_s);
+    count(difference.moved.size(), u"moved"_s);
+
+    QString text = identity.table + u": "_s + counts.join(u", "_s) + u'\n';
+    for (const QJsonObject& row : difference.gained) {
+        text += line(u'+', columnsText(identity.keys, row), columnsText(contentColumns(identity, row), row));
+    }
+    for (const QJsonObject& row : difference.lost) {
+        text += line(u'-', columnsText(identity.keys, row), columnsText(contentColumns(identity, row), row));
+    }
+    for (const auto& [row, changes] : difference.changed) {
+        QStringList parts;
+        for (const auto& [column, from, to] : changes) {
+            parts.append(column + u' ' + valueText(from) + u" → "_s + valueText(to));
+        }
+        text += line(u'~', columnsText(identity.keys, row), parts.join(u", "_s));
+    }
+    for (const auto& [row, from, to] : difference.moved) {
+        text += line(u'>', columnsText(identity.keys, row), u"place %1 → %2"_s.arg(from).arg(to));
+    }
+    return text;
+}
+
+QJsonObject toJson(const TableIdentity& identity, const TableDifference& difference)
+{
+    QJsonArray changed;
+    for (const auto& [row, changes] : difference.changed) {
+        QJsonArray list;
+        for (const auto& [column, from, to] : changes) {
+            list.append(QJsonObject{{u"column"_s, column}, {u"from"_s, from}, {u"to"_s, to}});
+        }
+        changed.append(QJsonObject{{u"row"_s, row}, {u"changes"_s, list}});
+    }
+    QJsonArray moved;
+    for (const auto& [row, from, to] : difference.moved) {
+        moved.append(QJsonObject{{u"row"_s, row}, {u"from"_s, from}, {u"to"_s, to}});
+    }
+    return {{u"table"_s, identity.table},
+            {u"gained"_s, toArray(difference.gained)},
+            {u"lost"_s, toArray(difference.lost)},
+            {u"changed"_s, changed},
+            {u"moved"_s, moved}};
+}
+
+} // namespace cluiconfig
