@@ -142,16 +142,23 @@ void addSearchCommand(CLI::App& program)
 {
     const auto options = std::make_shared<SearchOptions>();
     CLI::App* command = program.add_subcommand("search",
-                                               "Prints the lines that match a query, best first. Reads FILE, or "
-                                               "standard input; from a terminal, without FILE, it "
-                                               "searches a list of electrochemical techniques.");
-    command->add_option("query", options->query, "The letters to look for, in their order")->required();
-    command->add_option("file", options->file, "The file whose lines are searched");
-    command->add_option("--strategy", options->strategy, "How lines are scored")
+                                               "Print the lines that match a query, best first, as the "
+                                               "application's search boxes do.");
+    command->add_option("QUERY", options->query, "The letters to look for, in their order.")->required();
+    command->add_option("FILE", options->file,
+                        "The file whose lines are searched. Without it, standard input is; from a terminal, a list of "
+                        "electrochemical techniques.");
+    command->add_option("--strategy", options->strategy, "How lines are scored: as technique names, or as other texts.")
         ->check(CLI::IsMember({TechniqueStrategy, TextStrategy}))
         ->capture_default_str();
-    command->add_option("--max", options->maxResults, "Print at most so many lines; negative for all");
-    command->add_flag("--scores", options->scores, "Print the score and a tab before each line");
+    command->add_option("--max", options->maxResults, "Print at most so many lines; negative for all.");
+    command->add_flag("--scores", options->scores, "Print the score and a tab before each line.");
+    command->footer(R"(Examples:
+  cluiconfig search cv                                 technique names for "cv"
+  cluiconfig search cv names.txt --max 5 --scores      the best five lines of a file
+  ls | cluiconfig search report --strategy text        in a pipe
+
+Exit code: 0, also when nothing matches; 2 when the file cannot be read.)");
     command->callback([options] { search(*options); });
 }
 

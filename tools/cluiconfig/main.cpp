@@ -44,7 +44,7 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationName(QStringLiteral("cluiconfig"));
     QCoreApplication::setOrganizationName(QStringLiteral("Cellaro"));
 
-    CLI::App program("Shows what a UIConfig.json document gives the application, and searches technique names.",
+    CLI::App program("For the people who write UIConfig.json: what the application gets from a document.",
                      "cluiconfig");
     program.require_subcommand(1);
     program.set_version_flag("--version", "cluiconfig " CLCONFIGUI_VERSION ", UIConfig.json format version 29");
@@ -52,6 +52,11 @@ int main(int argc, char* argv[])
     program.add_option_function<std::string>("--catalogue", useCatalogue,
                                              "The catalogue of data arrays to go by, a file in the form of "
                                              "data/DataArrays.json; the shipped one when none is named.");
+    program.footer(R"(cluiconfig COMMAND --help tells more, with examples. To begin with:
+  cluiconfig show                   what the shipped document gives
+  cluiconfig show my.json           the same for a document of your own, or why it is refused
+  cluiconfig axes "Test Time / s"   what may be plotted over time
+  cluiconfig diff old.json my.json  what a change does)");
     cluiconfig::addShowCommand(program);
     cluiconfig::addAxesCommand(program);
     cluiconfig::addUnitsCommand(program);
