@@ -5,6 +5,12 @@
 #include <items/StatisticsChildItem.h>
 
 template <typename Container, typename Element>
+ContainerAdaptorBase<Container, Element>::ContainerAdaptorBase(Container* container)
+    : m_container(container)
+{
+}
+
+template <typename Container, typename Element>
 void ContainerAdaptorBase<Container, Element>::addElement(const Element& /*element*/)
 {
 }

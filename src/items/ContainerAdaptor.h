@@ -16,10 +16,7 @@ template <typename Container, typename Element>
 class ContainerAdaptorBase
 {
 public:
-    explicit ContainerAdaptorBase(Container* container)
-        : m_container(container)
-    {
-    }
+    explicit ContainerAdaptorBase(Container* container); // not inline: a DLL does not export what is
 
     virtual void addElement(const Element& element);
 
