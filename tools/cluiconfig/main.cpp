@@ -47,6 +47,7 @@ int main(int argc, char* argv[])
     CLI::App program("For the people who write UIConfig.json: what the application gets from a document.",
                      "cluiconfig");
     program.require_subcommand(1);
+    program.allow_windows_style_options(false); // what starts with a slash is a path, on Windows too
     program.set_version_flag("--version", "cluiconfig " CLCONFIGUI_VERSION ", UIConfig.json format version 29");
     program.fallthrough();
     program.add_option_function<std::string>("--catalogue", useCatalogue,
