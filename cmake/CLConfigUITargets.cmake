@@ -1,9 +1,13 @@
 # What every target of ours has in common: the warnings, and the way a shared library shows its headers.
 
 add_library(clconfigui_warnings INTERFACE)
-target_compile_options(clconfigui_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(MSVC)
+    target_compile_options(clconfigui_warnings INTERFACE /W4)
+else()
+    target_compile_options(clconfigui_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+endif()
 if(CLCONFIGUI_WARNINGS_AS_ERRORS)
-    target_compile_options(clconfigui_warnings INTERFACE -Werror)
+    target_compile_options(clconfigui_warnings INTERFACE $<IF:$<BOOL:${MSVC}>,/WX,-Werror>)
 endif()
 
 # Texts are QStringLiteral, u""_s or QLatin1String: a char array never turns into a QString by itself.
@@ -26,5 +30,8 @@ function(clconfigui_add_library name header_root)
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:clconfigui_strict>)
     set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    if(WIN32)
+        set_target_properties(${name} PROPERTIES PREFIX "") # CLConfigUI.dll, whichever compiler makes it
+    endif()
     set_property(GLOBAL APPEND PROPERTY CLCONFIGUI_LIBRARIES ${name})
 endfunction()

@@ -180,12 +180,14 @@ TEST_F(SummaryTable, ColumnReaderFillsAnyList)
 {
     QList<ClConfigDataArray*> columns;
     QString error = u"untouched"_s;
-    const auto readColumns = &UIConfigReaders::readSummaryTableColumns;
-    EXPECT_TRUE((config.*readColumns)(jsonObject(R"({"Loop": ["Energy"], "Cycle": []})"), columns, error));
-    EXPECT_TRUE((config.*readColumns)(u"text"_s, columns, error)) << "reads as an empty object";
+    const auto readColumns = [&](const QJsonValue& category) {
+        return (config.*&UIConfigReaders::readSummaryTableColumns)(category, columns, error);
+    };
+    EXPECT_TRUE(readColumns(jsonObject(R"({"Loop": ["Energy"], "Cycle": []})")));
+    EXPECT_TRUE(readColumns(u"text"_s)) << "reads as an empty object";
     EXPECT_EQ(error, u"untouched"_s);
     EXPECT_THAT(names(columns), ElementsAre(u"Loop/Energy"_s));
-    EXPECT_FALSE((config.*readColumns)(jsonObject(R"({"Step": null})"), columns, error));
+    EXPECT_FALSE(readColumns(jsonObject(R"({"Step": null})")));
     EXPECT_EQ(error, u"Summary table category is not a Json array"_s);
 }
 

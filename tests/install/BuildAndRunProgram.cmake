@@ -1,5 +1,5 @@
 # Copies the project SOURCE_DIR to a directory outside the tree, builds it against the package in PREFIX and runs its
-# program.
+# program. RUNTIME_DIR is where the build tree has the DLLs of others that a program for Windows needs beside it.
 foreach(variable TMPDIR TEMP)
     if(NOT temporary AND DEFINED ENV{${variable}})
         cmake_path(CONVERT "$ENV{${variable}}" TO_CMAKE_PATH_LIST temporary)
@@ -12,6 +12,8 @@ string(RANDOM LENGTH 12 name)
 set(directory ${temporary}/clconfigui-program-${name})
 cmake_path(GET SOURCE_DIR FILENAME project)
 file(COPY ${SOURCE_DIR} DESTINATION ${directory})
+file(GLOB runtime_libraries ${PREFIX}/bin/*.dll ${RUNTIME_DIR}/Qt*.dll ${RUNTIME_DIR}/lib*.dll)
+file(COPY ${runtime_libraries} DESTINATION ${directory}/build)
 
 execute_process(COMMAND ${CMAKE_COMMAND} -G ${GENERATOR} -C ${SETTINGS} -S ${directory}/${project} -B ${directory}/build
     RESULT_VARIABLE result)
