@@ -7,7 +7,7 @@
 /// The application is built against the order of a record's virtual operations. Where a pointer to a virtual member
 /// function tells its slot, tests read the order from it.
 
-#if defined(__GNUC__) && defined(__x86_64__) && !defined(_WIN32)
+#if defined(__GNUC__) && defined(__x86_64__)
 #define HAVE_VIRTUAL_SLOTS 1
 
 /// The slot of a virtual member function, from 0. A virtual destructor takes two slots here: one destroys, the other
