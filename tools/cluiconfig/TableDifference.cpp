@@ -1,7 +1,6 @@
 #include "TableDifference.h"
 
 #include <QHash>
-#include <QJsonDocument>
 
 #include <algorithm>
 #include <utility>
@@ -14,6 +13,31 @@ namespace {
 
 constexpr qsizetype NoRow = -1;
 
+QString valueText(const QJsonValue& value)
+{
+    if (value.isBool()) {
+        return value.toBool() ? u"yes"_s : u"no"_s;
+    }
+    if (value.isArray()) {
+        QStringList parts;
+        const QJsonArray array = value.toArray();
+        for (const auto& element : array) {
+            parts.append(valueText(element));
+        }
+        return u'[' + parts.join(u", "_s) + u']';
+    }
+    return value.isNull() ? u"(unknown)"_s : u'"' + value.toString() + u'"';
+}
+
+QString columnsText(const QStringList& columns, const QJsonObject& row)
+{
+    QStringList parts;
+    for (const QString& column : columns) {
+        parts.append(column + u' ' + valueText(row.value(column)));
+    }
+    return parts.join(u", "_s);
+}
+
 /// The rows of two tables, each with its partner in the other one if there is one.
 class Pairing
 {
@@ -24,17 +48,17 @@ public:
         , m_ofBefore(before.size(), NoRow)
         , m_ofAfter(after.size(), NoRow)
     {
-        pairEqual([&](QJsonObject row) {
-            QJsonArray key;
-            for (const QString& column : identity.keys) {
-                key.append(row.value(column));
-            }
-            return key;
-        });
+        // Documents have most rows in common, and equal rows at the front need no searching.
+        for (qsizetype i = 0; i < std::min(before.size(), after.size()) && before.at(i) == after.at(i); ++i) {
+            m_ofBefore[i] = i;
+            m_ofAfter[i] = i;
+        }
+        pairEqual([&](const QJsonObject& row) { return columnsText(identity.keys, row); });
         for (const QString& name : identity.names) {
-            pairEqual([&](QJsonObject row) {
-                row.remove(name);
-                return row;
+            pairEqual([&](const QJsonObject& row) {
+                QStringList others = row.keys();
+                others.removeOne(name);
+                return columnsText(others, row);
             });
         }
     }
@@ -47,16 +71,15 @@ private:
     template <typename KeyOf>
     void pairEqual(KeyOf keyOf)
     {
-        const auto textOf = [&](const QJsonValue& row) { return QJsonDocument(keyOf(row.toObject())).toJson(); };
-        QHash<QByteArray, QList<qsizetype>> rows; // last one first
+        QHash<QString, QList<qsizetype>> rows; // last one first
         for (qsizetype i = m_before.size() - 1; i >= 0; --i) {
             if (m_ofBefore.at(i) == NoRow) {
-                rows[textOf(m_before.at(i))].append(i);
+                rows[keyOf(m_before.at(i).toObject())].append(i);
             }
         }
         for (qsizetype i = 0; i < m_after.size(); ++i) {
             if (m_ofAfter.at(i) == NoRow) {
-                const auto found = rows.find(textOf(m_after.at(i)));
+                const auto found = rows.find(keyOf(m_after.at(i).toObject()));
                 if (found != rows.end() && !found->isEmpty()) {
                     m_ofAfter[i] = found->takeLast();
                     m_ofBefore[m_ofAfter.at(i)] = i;
@@ -103,31 +126,6 @@ QList<qsizetype> outOfOrder(const QList<qsizetype>& places)
         }
     }
     return others;
-}
-
-QString valueText(const QJsonValue& value)
-{
-    if (value.isBool()) {
-        return value.toBool() ? u"yes"_s : u"no"_s;
-    }
-    if (value.isArray()) {
-        QStringList parts;
-        const QJsonArray array = value.toArray();
-        for (const auto& element : array) {
-            parts.append(valueText(element));
-        }
-        return u'[' + parts.join(u", "_s) + u']';
-    }
-    return value.isNull() ? u"(unknown)"_s : u'"' + value.toString() + u'"';
-}
-
-QString columnsText(const QStringList& columns, const QJsonObject& row)
-{
-    QStringList parts;
-    for (const QString& column : columns) {
-        parts.append(column + u' ' + valueText(row.value(column)));
-    }
-    return parts.join(u", "_s);
 }
 
 /// The columns of \p row that \p identity does not recognise it by.
@@ -177,6 +175,9 @@ QList<TableIdentity> tableIdentities()
 TableDifference difference(const TableIdentity& identity, const QJsonArray& before, const QJsonArray& after)
 {
     TableDifference result;
+    if (before == after) {
+        return result;
+    }
     const Pairing pairing(identity, before, after);
     for (qsizetype i = 0; i < before.size(); ++i) {
         if (pairing.ofBefore().at(i) == NoRow) {
