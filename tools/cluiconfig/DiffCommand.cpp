@@ -24,59 +24,37 @@ struct DiffOptions
     std::string format = "text";
 };
 
-/// The tables of a document by their names, made by a process of its own: a process has one configuration, which loads
-/// on top of what is there, and nothing empties it altogether.
-class ShownDocument
+/// The tables of the document \p path by their names, made by a process of its own: a process has one configuration,
+/// which loads on top of what is there, and nothing empties it altogether. Ends the command with ExitCannotRun when the
+/// document cannot be shown.
+QJsonObject shownTables(const std::string& path, const std::string& catalogue)
 {
-public:
-    ShownDocument(const std::string& path, const std::string& catalogue)
-        : m_path(QString::fromStdString(path))
-    {
-        requireReadableFile(m_path);
-        QStringList arguments;
-        if (!catalogue.empty()) {
-            arguments << u"--catalogue"_s << QString::fromStdString(catalogue);
-        }
-        arguments << u"show"_s << u"--format"_s << u"json"_s << u"--"_s << m_path;
-        m_process.start(QCoreApplication::applicationFilePath(), arguments, QIODevice::ReadOnly);
+    const QString document = QString::fromStdString(path);
+    QStringList arguments;
+    if (!catalogue.empty()) {
+        arguments << u"--catalogue"_s << QString::fromStdString(catalogue);
     }
-
-    ~ShownDocument()
-    {
-        if (m_process.state() != QProcess::NotRunning) { // the other document cannot be shown, so nobody waits
-            m_process.kill();
-            m_process.waitForFinished();
-        }
+    arguments << u"show"_s << u"--format"_s << u"json"_s << u"--"_s << document;
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), arguments, QIODevice::ReadOnly);
+    QString error;
+    if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit) {
+        error = process.errorString();
+    } else if (process.exitCode() != 0) {
+        error = QString::fromUtf8(process.readAllStandardError()).trimmed();
     }
-    ShownDocument(const ShownDocument&) = delete;
-    ShownDocument& operator=(const ShownDocument&) = delete;
-    ShownDocument(ShownDocument&&) = delete;
-    ShownDocument& operator=(ShownDocument&&) = delete;
-
-    /// Ends the command with ExitCannotRun when the document cannot be shown.
-    QJsonObject tables()
-    {
-        if (!m_process.waitForFinished(-1) || m_process.exitStatus() != QProcess::NormalExit) {
-            fail(u"Cannot compare \"%1\": %2"_s.arg(m_path, m_process.errorString()).toStdString());
-        }
-        if (m_process.exitCode() != 0) {
-            const QString reason = QString::fromUtf8(m_process.readAllStandardError()).trimmed();
-            fail(u"Cannot compare \"%1\": %2"_s.arg(m_path, reason).toStdString());
-        }
-        return QJsonDocument::fromJson(m_process.readAllStandardOutput()).object();
+    if (!error.isNull()) {
+        fail(u"Cannot compare \"%1\": %2"_s.arg(document, error).toStdString());
     }
-
-private:
-    QString m_path;
-    QProcess m_process;
-};
+    return QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+}
 
 void diff(const DiffOptions& options, const std::string& catalogue)
 {
-    ShownDocument shownBefore(options.before, catalogue);
-    ShownDocument shownAfter(options.after, catalogue);
-    const QJsonObject before = shownBefore.tables();
-    const QJsonObject after = shownAfter.tables();
+    requireReadableFile(QString::fromStdString(options.before));
+    requireReadableFile(QString::fromStdString(options.after));
+    const QJsonObject before = shownTables(options.before, catalogue);
+    const QJsonObject after = shownTables(options.after, catalogue);
 
     QStringList texts;
     QJsonArray tables;

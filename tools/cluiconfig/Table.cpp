@@ -106,17 +106,18 @@ QString toText(const Table& table, ColorDepth colors)
     return text;
 }
 
-QJsonValue toJson(const Table& table)
+QByteArray toJson(const Table& table)
 {
-    QJsonArray array;
+    QByteArray lines;
     for (const auto& values : table.rows) {
         QJsonObject object;
         for (qsizetype i = 0; i < values.size(); ++i) {
             object.insert(table.columns.at(i), values.at(i));
         }
-        array.append(object);
+        lines +=
+            (lines.isEmpty() ? "\n        " : ",\n        ") + QJsonDocument(object).toJson(QJsonDocument::Compact);
     }
-    return array;
+    return '[' + lines + (lines.isEmpty() ? "]" : "\n    ]");
 }
 
 void TableFormat::addTo(CLI::App& command)
@@ -129,11 +130,13 @@ void TableFormat::addTo(CLI::App& command)
 QByteArray TableFormat::operator()(const QList<Table>& tables) const
 {
     if (name == "json") {
-        QJsonObject object;
+        // Row by row: a tree of all rows would take ten times the memory of its text.
+        QByteArray text;
         for (const Table& table : tables) {
-            object.insert(table.name, toJson(table));
+            const QByteArray key = QJsonDocument(QJsonArray{table.name}).toJson(QJsonDocument::Compact);
+            text += (text.isEmpty() ? "{\n    " : ",\n    ") + key.sliced(1, key.size() - 2) + ": " + toJson(table);
         }
-        return QJsonDocument(object).toJson();
+        return text + "\n}\n";
     }
     QStringList texts;
     for (const Table& table : tables) {

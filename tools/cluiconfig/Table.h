@@ -28,8 +28,8 @@ struct Table
 /// colours are followed by a swatch where \p colors are to be had.
 QString toText(const Table& table, ColorDepth colors = ColorDepth::None);
 
-/// An array with one object a row, the columns as keys.
-QJsonValue toJson(const Table& table);
+/// An array with one object a row, each on a line, the columns as keys.
+QByteArray toJson(const Table& table);
 
 /// The options of a command that prints tables, and what it prints: aligned text, an empty line between two tables, or
 /// one JSON object with an array a table.
