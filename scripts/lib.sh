@@ -27,7 +27,7 @@ need() {
 
 need_to_build() {
     need g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools libqcustomplot-dev libcli11-dev \
-        rapidjson-dev libgtest-dev libgmock-dev
+        rapidjson-dev libvalijson-dev libgtest-dev libgmock-dev
 }
 
 need_to_test() {

@@ -11,8 +11,10 @@ constexpr int ExitRefused = 1; ///< The document is refused, or something in it 
 constexpr int ExitCannotRun = 2; ///< The command could not do its work: wrong arguments, an unreadable file.
 
 void addAxesCommand(CLI::App& program);
+void addCheckCommand(CLI::App& program);
 void addDiffCommand(CLI::App& program);
 void addFormatCommand(CLI::App& program);
+void addSchemaCommand(CLI::App& program);
 void addSearchCommand(CLI::App& program);
 void addShowCommand(CLI::App& program);
 void addUnitsCommand(CLI::App& program);

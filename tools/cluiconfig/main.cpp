@@ -64,6 +64,8 @@ int main(int argc, char* argv[])
     cluiconfig::addDiffCommand(program);
     cluiconfig::addFormatCommand(program);
     cluiconfig::addSearchCommand(program);
+    cluiconfig::addCheckCommand(program);
+    cluiconfig::addSchemaCommand(program);
     try {
         program.parse(reversedArguments());
     } catch (const CLI::RuntimeError& error) {

@@ -1,0 +1,155 @@
+#include "Commands.h"
+#include "Terminal.h"
+#include "check/Check.h"
+#include "check/Reports.h"
+#include "check/Suggest.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace cluiconfig {
+
+namespace {
+
+using check::Finding;
+using check::Report;
+using check::Severity;
+
+struct CheckOptions
+{
+    std::vector<std::string> documents;
+    std::string format = "text";
+    bool isStrict = false;
+    std::vector<std::string> rules;
+    bool listsRules = false;
+};
+
+void print(const QByteArray& output)
+{
+    std::fwrite(output.constData(), 1, static_cast<size_t>(output.size()), stdout);
+}
+
+QString severityText(const check::RuleDescription& rule)
+{
+    return rule.mayBeError && rule.mayBeWarning ? u"error or warning"_s
+                                                : toString(rule.mayBeError ? Severity::Error : Severity::Warning);
+}
+
+void listRules()
+{
+    QString text;
+    for (const check::RuleDescription& rule : check::rules()) {
+        text += rule.name.leftJustified(24) + severityText(rule).leftJustified(18) + rule.meaning + u'\n';
+    }
+    print(text.toUtf8());
+}
+
+/// The severities of arguments such as "unused-color=off".
+check::Severities severities(const std::vector<std::string>& arguments)
+{
+    check::Severities result;
+    for (const std::string& argument : arguments) {
+        const QString text = QString::fromStdString(argument);
+        const QString name = text.section(u'=', 0, 0);
+        const auto rule = check::ruleFromName(name);
+        const auto severity = check::severityFromString(text.section(u'=', 1));
+        if (!rule) {
+            QStringList names;
+            for (const check::RuleDescription& each : check::rules()) {
+                names.append(each.name);
+            }
+            throw CLI::ValidationError("--rule",
+                                       QString(u"there is no rule "_s + check::quoted(name) + u'.'
+                                               + check::didYouMean(name, names) + u" --list-rules lists them all."_s)
+                                           .toStdString());
+        }
+        if (!severity) {
+            throw CLI::ValidationError("--rule", "write NAME=off, NAME=warning or NAME=error");
+        }
+        result.insert(*rule, *severity);
+    }
+    return result;
+}
+
+int exitCode(const Report& report, bool isStrict)
+{
+    if (!report.couldBeRead) {
+        return ExitCannotRun;
+    }
+    const bool fails = std::any_of(report.findings.begin(), report.findings.end(), [&](const Finding& finding) {
+        return isStrict || finding.severity == Severity::Error;
+    });
+    return fails || !report.verdict.loads ? ExitRefused : 0;
+}
+
+void runCheck(const CheckOptions& options)
+{
+    if (options.listsRules) {
+        listRules();
+        return;
+    }
+    if (options.documents.empty()) {
+        throw CLI::RequiredError("DOCUMENT");
+    }
+    const check::Severities chosen = severities(options.rules);
+    int code = 0;
+    QList<Report> reports;
+    for (const std::string& document : options.documents) {
+        const Report report = check::check(QString::fromStdString(document), chosen);
+        code = std::max(code, exitCode(report, options.isStrict));
+        if (options.format == "text") {
+            print(check::asText(report, showsColors(stdout)));
+        } else {
+            reports.append(report);
+        }
+    }
+    if (options.format != "text") {
+        print(options.format == "json" ? check::asJson(reports) : check::asSarif(reports));
+    }
+    if (code != 0) {
+        throw CLI::RuntimeError(code);
+    }
+}
+
+} // namespace
+
+void addCheckCommand(CLI::App& program)
+{
+    auto options = std::make_shared<CheckOptions>();
+    CLI::App* command = program.add_subcommand("check",
+                                               "Say whether the application loads a document, and everything in it "
+                                               "that is refused, dropped, ignored or turned "
+                                               "into something else, with its place.");
+    command->add_option("DOCUMENT", options->documents, "The documents to check.");
+    command->add_option("--format", options->format, "Lines for people, or JSON or SARIF 2.1.0 for programs.")
+        ->check(CLI::IsMember({"text", "json", "sarif"}))
+        ->capture_default_str();
+    command->add_flag("--strict", options->isStrict, "Let warnings fail as well.");
+    command->add_option("--rule", options->rules, "Report the findings of a rule as errors, as warnings or not at all.")
+        ->type_name("NAME=off|warning|error")
+        ->expected(1)
+        ->take_all();
+    command->add_flag("--list-rules", options->listsRules, "List the rules with their severities and meanings.");
+    command->footer(
+        "For each document the verdict comes first: it loads, or the application refuses it and says why.\n"
+        "Then every finding: FILE:LINE:COLUMN: SEVERITY: MESSAGE [RULE at JSON-POINTER]. An error is what\n"
+        "the application refuses, and the one that it stumbles over comes first; a warning is what it loads\n"
+        "as something else than was written. After 200 findings of one rule the others are only counted.\n"
+        "Colours are used on a terminal unless NO_COLOR is set.\n"
+        "\n"
+        "Exit code: 0 when nothing fails, 1 when a document is refused or a finding fails, 2 when a document\n"
+        "could not be read or the arguments are wrong.\n"
+        "\n"
+        "Examples:\n"
+        "  cluiconfig check UIConfig.json\n"
+        "  cluiconfig check --strict --rule unused-color=off site/*.json\n"
+        "  cluiconfig check --format sarif UIConfig.json > findings.sarif");
+    command->callback([options] { runCheck(*options); });
+}
+
+} // namespace cluiconfig

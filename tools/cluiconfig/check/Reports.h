@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Check.h"
+
+#include <QByteArray>
+#include <QList>
+
+namespace cluiconfig::check {
+
+/// The verdict, a line a finding and, if there are any, a line that counts them.
+QByteArray asText(const Report& report, bool isColored);
+
+/// An array with one object a document: "file", "loads", "error" (null when it loads) and "findings".
+QByteArray asJson(const QList<Report>& reports);
+
+/// A SARIF 2.1.0 log with one run, for programs that show the findings of many tools.
+QByteArray asSarif(const QList<Report>& reports);
+
+} // namespace cluiconfig::check

@@ -1,0 +1,77 @@
+#include "Reports.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace cluiconfig::check {
+
+namespace {
+
+constexpr auto Bold = "1"_L1;
+constexpr auto Red = "1;31"_L1;
+constexpr auto Green = "1;32"_L1;
+constexpr auto Magenta = "1;35"_L1;
+
+/// \p text without what a terminal would take for a command.
+QString printable(const QString& text)
+{
+    QString result;
+    for (const QChar c : text) {
+        if (c.category() == QChar::Other_Control) {
+            result += u"\\u%1"_s.arg(static_cast<uint>(c.unicode()), 4, 16, QChar(u'0'));
+        } else {
+            result += c;
+        }
+    }
+    return result;
+}
+
+class Painter
+{
+public:
+    explicit Painter(bool isColored)
+        : m_isColored(isColored)
+    {
+    }
+    QString operator()(QLatin1StringView color, const QString& text) const
+    {
+        return m_isColored ? u"\033[%1m%2\033[0m"_s.arg(color, text) : text;
+    }
+
+private:
+    bool m_isColored;
+};
+
+QString counted(qsizetype count, const QString& what)
+{
+    return QString::number(count) + u' ' + what + (count == 1 ? QString() : u"s"_s);
+}
+
+} // namespace
+
+QByteArray asText(const Report& report, bool isColored)
+{
+    const Painter paint(isColored);
+    const QString file = printable(report.file);
+    QString text = paint(Bold, file) + u": "_s;
+    text +=
+        report.verdict.loads ? paint(Green, u"loads"_s) : paint(Red, u"refused: "_s) + printable(report.verdict.error);
+    text += u'\n';
+    for (const Finding& finding : report.findings) {
+        const bool isError = finding.severity == Severity::Error;
+        text += u"%1:%2:%3: "_s.arg(file, QString::number(finding.line), QString::number(finding.column));
+        text += paint(isError ? Red : Magenta, toString(finding.severity) + u':') + u' ' + printable(finding.message);
+        const QString where = finding.pointer.isEmpty() ? QString() : u" at "_s + printable(finding.pointer);
+        text += u" ["_s + describe(finding.rule).name + where + u"]\n"_s;
+    }
+    if (!report.findings.isEmpty()) {
+        const auto errors = std::count_if(report.findings.begin(), report.findings.end(),
+                                          [](const Finding& each) { return each.severity == Severity::Error; });
+        text += file + u": "_s + counted(errors, u"error"_s) + u", "_s
+            + counted(report.findings.size() - errors, u"warning"_s) + u'\n';
+    }
+    return text.toUtf8();
+}
+
+} // namespace cluiconfig::check
