@@ -132,8 +132,7 @@ void addCheckCommand(CLI::App& program)
     command->add_flag("--strict", options->isStrict, "Let warnings fail as well.");
     command->add_option("--rule", options->rules, "Report the findings of a rule as errors, as warnings or not at all.")
         ->type_name("NAME=off|warning|error")
-        ->expected(1)
-        ->take_all();
+        ->allow_extra_args(false);
     command->add_flag("--list-rules", options->listsRules, "List the rules with their severities and meanings.");
     command->footer(
         "For each document the verdict comes first: it loads, or the application refuses it and says why.\n"

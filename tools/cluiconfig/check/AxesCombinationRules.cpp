@@ -4,8 +4,11 @@
 #include <axes/AxesCombinationManager.h>
 
 #include <QHash>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QSet>
 
+#include <algorithm>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -75,6 +78,15 @@ void checkReference(const Reference& reference, const Catalogue& catalogue, qint
     }
 }
 
+/// The categories that \p reference would stand for if its author corrected what makes the loader refuse it.
+QSet<QString> intendedCategories(const Reference& reference)
+{
+    if (reference.categories.isEmpty() && !reference.category.isEmpty()) {
+        return {reference.category};
+    }
+    return {reference.categories.begin(), reference.categories.end()};
+}
+
 /// When the loader looks at what, if nothing is refused before: an X reference; at the first of them also every Y
 /// reference; at the first pair also the scales and the flag.
 class ReadingSteps
@@ -85,13 +97,13 @@ public:
     {
         QSet<QString> yCategories;
         for (const Reference& y : ys) {
-            yCategories.unite({y.categories.begin(), y.categories.end()});
+            yCategories.unite(intendedCategories(y));
         }
         for (size_t i = 0; i < xs.size(); ++i) {
-            if (yCategories.intersects({xs[i].categories.begin(), xs[i].categories.end()})) {
-                const QSet<QString> xCategories(xs[i].categories.begin(), xs[i].categories.end());
+            const QSet<QString> xCategories = intendedCategories(xs[i]);
+            if (yCategories.intersects(xCategories)) {
                 size_t j = 0;
-                while (!xCategories.intersects({ys[j].categories.begin(), ys[j].categories.end()})) {
+                while (!xCategories.intersects(intendedCategories(ys[j]))) {
                     ++j;
                 }
                 m_firstPair = ofY(static_cast<qint64>(i), static_cast<qint64>(j)) + 1;
@@ -150,7 +162,38 @@ private:
     qsizetype m_seen = 0;
 };
 
-void checkEntry(const Value& entry, const Catalogue& catalogue, Findings& findings)
+bool namesNothing(const std::vector<Reference>& references)
+{
+    return std::all_of(references.begin(), references.end(),
+                       [](const Reference& each) { return each.categories.isEmpty(); });
+}
+
+QJsonArray withoutUnknown(const std::vector<Reference>& references)
+{
+    QJsonArray known;
+    for (const Reference& each : references) {
+        if (!each.categories.isEmpty()) {
+            known.append(each.place.json());
+        }
+    }
+    return known;
+}
+
+/// \p entry as it would be if its author corrected what makes the loader refuse it, so that one mistake is not followed
+/// by complaints about everything that needs the entry.
+QJsonObject withoutMistakes(const Value& entry, const std::vector<Reference>& xs, const std::vector<Reference>& ys)
+{
+    QJsonObject corrected = entry.json().toObject();
+    corrected.insert(XKey, withoutUnknown(xs));
+    corrected.insert(YKey, withoutUnknown(ys));
+    for (const QString& key : PlotDefaultKeys) {
+        corrected.insert(key, u"LINEAR"_s); // any word will do
+    }
+    return corrected;
+}
+
+/// Adds the findings about \p entry, and returns it without mistakes.
+QJsonObject checkEntry(const Value& entry, const Catalogue& catalogue, Findings& findings)
 {
     const std::vector<Reference> xs = readReferences(entry, XKey, catalogue);
     const std::vector<Reference> ys = readReferences(entry, YKey, catalogue);
@@ -165,15 +208,18 @@ void checkEntry(const Value& entry, const Catalogue& catalogue, Findings& findin
         const bool isRead = !xs.empty();
         checkReference(ys[j], catalogue, isRead ? steps.ofY(0, static_cast<qint64>(j)) : Findings::NeverRead, findings);
     }
-    if (steps.ofPlotDefaults() == Findings::NeverRead) {
+    const auto isRefused = [](const Reference& each) { return each.categories.isEmpty() && !each.category.isEmpty(); };
+    if (steps.ofPlotDefaults() == Findings::NeverRead && std::none_of(xs.begin(), xs.end(), isRefused)
+        && std::none_of(ys.begin(), ys.end(), isRefused)) {
         findings.add(Rule::NoCombination, Severity::Warning, entry, [&] {
-            const QString why = xs.empty() ? u"\"X\" names nothing"_s
-                : ys.empty()               ? u"\"Y1/Y2\" names nothing"_s
-                                           : u"no X array has the category of a Y array"_s;
+            const QString why = namesNothing(xs) ? u"\"X\" names no array"_s
+                : namesNothing(ys)               ? u"\"Y1/Y2\" names no array"_s
+                                                 : u"no X array has the category of a Y array"_s;
             return u"The entry pairs no arrays, because %1: it offers nothing to plot. Name arrays of one category in "
                    "both."_s.arg(why);
         });
     }
+    return withoutMistakes(entry, xs, ys);
 }
 
 } // namespace
@@ -189,9 +235,8 @@ void checkAxesCombinations(const Value& root, const Catalogue& catalogue, AxesCo
     qsizetype number = 0;
     section->forEach([&](const Value& entry) {
         if (entry.isObject()) {
-            checkEntry(entry, catalogue, findings);
             QString error;
-            manager.readAxesCombination(entry.json().toObject(), error);
+            manager.readAxesCombination(checkEntry(entry, catalogue, findings), error);
             pairings.add(manager, entry, number, findings);
         }
         ++number;

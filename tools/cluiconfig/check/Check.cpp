@@ -54,15 +54,18 @@ Report unreadable(const QString& file, const QString& error)
 Finding notJson(const QString& error)
 {
     static const QRegularExpression place(u"is not valid JSON: line (\\d+), column (\\d+): "_s);
-    Finding finding = errorAboutTheFile(
-        Rule::NotJson,
-        u"The application refuses the file: %1. Write one JSON object { … }, encoded in UTF-8."_s.arg(error));
+    Finding finding;
+    finding.rule = Rule::NotJson;
+    QString advice = u"Write one JSON object { … }, encoded in UTF-8."_s;
     QRegularExpressionMatchIterator matches = place.globalMatch(error);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
         finding.line = match.captured(1).toLongLong();
         finding.column = match.captured(2).toLongLong();
+        advice = u"Look there and just before for a comma, a quote or a bracket that is missing or too many, or for a "
+                 "letter that is not encoded in UTF-8."_s;
     }
+    finding.message = u"The application refuses the file: %1. %2"_s.arg(error, advice);
     return finding;
 }
 

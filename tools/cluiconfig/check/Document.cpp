@@ -127,12 +127,14 @@ Patch patchFor(const QByteArray& bytes, const rapidjson::Reader& reader)
     switch (reader.GetParseErrorCode()) {
     case rapidjson::kParseErrorNumberMissFraction:
         return {lastBefore([](char byte) { return byte == '.'; }), '0'};
-    case rapidjson::kParseErrorStringEscapeInvalid:
     case rapidjson::kParseErrorStringUnicodeSurrogateInvalid:
         return {lastBefore([](char byte) { return byte == '\\'; }), 'x'};
     default:
-        return {lastBefore([](char byte) { return static_cast<unsigned char>(byte) < 0x20; }), ' '};
+        break; // the parser has one error for unknown escapes and raw control characters
     }
+    const qsizetype offset =
+        lastBefore([](char byte) { return byte == '\\' || static_cast<unsigned char>(byte) < 0x20; });
+    return {offset, offset >= 0 && bytes.at(offset) == '\\' ? 'x' : ' '};
 }
 
 } // namespace

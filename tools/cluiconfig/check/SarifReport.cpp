@@ -24,8 +24,7 @@ QJsonObject artifactLocation(const QString& file)
     if (QDir::isAbsolutePath(file)) {
         url = QUrl::fromLocalFile(file);
     } else {
-        url.setPath(u"./"_s + QDir::fromNativeSeparators(file), QUrl::DecodedMode);
-        url = url.adjusted(QUrl::NormalizePathSegments);
+        url.setPath(QDir::fromNativeSeparators(file), QUrl::DecodedMode);
     }
     return {{u"uri"_s, QString::fromLatin1(url.toEncoded())}};
 }

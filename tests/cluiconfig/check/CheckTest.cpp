@@ -1,0 +1,205 @@
+#include <check/Check.h>
+#include <check/Document.h>
+#include <check/Structure.h>
+#include <check/Suggest.h>
+#include <datastorage/Converter.h>
+#include <support/ConfigDocument.h>
+#include <support/Json.h>
+#include <support/QtPrinters.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace cluiconfig::check;
+using cl::datastorage::Converter;
+using testing::ElementsAre;
+
+namespace {
+
+QList<Finding> findingsInText(const QByteArray& bytes)
+{
+    return findingsIn(bytes, QJsonDocument::fromJson(bytes).object());
+}
+
+Finding finding(Rule rule, Severity severity)
+{
+    Finding result;
+    result.rule = rule;
+    result.severity = severity;
+    return result;
+}
+
+QStringList words(const QJsonValue& list)
+{
+    QStringList result;
+    const QJsonArray array = list.toArray();
+    for (const auto& word : array) {
+        result.append(word.toString());
+    }
+    return result;
+}
+
+} // namespace
+
+TEST(CheckDocument, KnowsWhereEveryKindOfValueStands)
+{
+    const QByteArray bytes = R"({ "a\"\\": "t\\", "b": [ -1.5e3 ,true,false , null, {} ], "é": [[]] })";
+    const Document document(bytes, QJsonDocument::fromJson(bytes).object());
+    QStringList seen;
+    const auto visit = [&](const auto& self, const Value& value) -> void {
+        seen.append(value.pointer() + u'=' + QString::fromUtf8(bytes.sliced(value.offset(), 2)));
+        value.forEach([&](const Value& child) { self(self, child); });
+    };
+    visit(visit, document.root());
+    EXPECT_THAT(seen,
+                ElementsAre(u"={ "_s, u"/a\"\\=\"t"_s, u"/b=[ "_s, u"/b/0=-1"_s, u"/b/1=tr"_s, u"/b/2=fa"_s,
+                            u"/b/3=nu"_s, u"/b/4={}"_s, u"/é=[["_s, u"/é/0=[]"_s));
+}
+
+TEST(CheckDocument, OfRepeatedKeysOnlyTheLastIsVisited)
+{
+    const QByteArray bytes = R"({ "a": 1, "b": 2, "a": 3, "\u0061": 4 })";
+    const Document document(bytes, QJsonDocument::fromJson(bytes).object());
+    QList<double> values;
+    document.root().forEach([&](const Value& member) { values.append(member.json().toDouble()); });
+    EXPECT_THAT(values, ElementsAre(2, 4));
+    QList<qsizetype> shadowed;
+    for (const Value& key : document.shadowedKeys()) {
+        shadowed.append(key.keyOffset());
+    }
+    EXPECT_THAT(shadowed, ElementsAre(bytes.indexOf("\"a\": 1"), bytes.indexOf("\"a\": 3")));
+}
+
+TEST(CheckDocument, WhatOnlyQtAcceptsMovesNothing)
+{
+    const QByteArray bytes = "{ \"a\": \"1\t2\", \"b\": \"\\q\", \"c\": 1., \"d\": 5 }";
+    const QJsonObject root = QJsonDocument::fromJson(bytes).object();
+    ASSERT_EQ(root.size(), 4);
+    const Document document(bytes, root);
+    EXPECT_THAT(document.laxPlaces(), ElementsAre(bytes.indexOf('\t'), bytes.indexOf('\\'), bytes.indexOf('.')));
+    EXPECT_FALSE(document.isGivenUp());
+    EXPECT_EQ(document.root().member(u"d"_s)->offset(), bytes.indexOf('5'));
+    EXPECT_EQ(document.root().text(u"a"_s), u"1\t2"_s);
+}
+
+TEST(CheckDocument, IsGivenUpAfterAHundredPlacesThatOnlyQtAccepts)
+{
+    const QByteArray bytes = "{ \"a\": \"" + QByteArray(101, '\t') + "\" }";
+    const Document document(bytes, QJsonDocument::fromJson(bytes).object());
+    EXPECT_TRUE(document.isGivenUp());
+    EXPECT_EQ(document.laxPlaces().size(), 100U);
+    const QList<Finding> findings = findingsInText(bytes);
+    EXPECT_EQ(
+        std::count_if(findings.begin(), findings.end(), [](const Finding& each) { return each.rule == Rule::LaxJson; }),
+        101);
+}
+
+TEST(Check, LinesAndColumnsCountCharactersBehindAByteOrderMark)
+{
+    const ConfigDocumentCatalogue catalogue;
+    const QByteArray bytes = "\xEF\xBB\xBF{ \"äöü\": 1,\n  \"€\": 2 }";
+    const QList<Finding> findings = findingsInText(bytes);
+    QStringList places;
+    for (const Finding& each : findings) {
+        if (each.rule == Rule::UnknownKey) {
+            places.append(u"%1 %2:%3"_s.arg(each.pointer).arg(each.line).arg(each.column));
+        }
+    }
+    EXPECT_THAT(places, ElementsAre(u"/äöü 1:3"_s, u"/€ 2:3"_s));
+}
+
+TEST(Check, VerdictHasTheLastWord)
+{
+    const QList<Finding> findings{finding(Rule::MissingKey, Severity::Error),
+                                  finding(Rule::EmptyText, Severity::Warning)};
+    const QList<Finding> loads = reconciled(findings, {true, {}});
+    EXPECT_EQ(loads.at(0).severity, Severity::Warning);
+    EXPECT_EQ(loads.at(1).severity, Severity::Warning);
+    EXPECT_EQ(reconciled(findings, {false, u"why"_s}).size(), 2);
+}
+
+TEST(Check, RefusalThatNoRuleExplainsIsAnErrorWithTheMessageOfTheLoader)
+{
+    const QList<Finding> findings = reconciled({finding(Rule::EmptyText, Severity::Warning)}, {false, u"The reason"_s});
+    ASSERT_EQ(findings.size(), 2);
+    EXPECT_EQ(findings.first().rule, Rule::Refused);
+    EXPECT_EQ(findings.first().severity, Severity::Error);
+    EXPECT_EQ(findings.first().message, u"The application refuses the document: The reason."_s);
+}
+
+TEST(Check, AfterTwoHundredFindingsOfARuleTheOthersAreCounted)
+{
+    const ConfigDocumentCatalogue catalogue;
+    QJsonArray skipped;
+    for (int i = 0; i < 100'000; ++i) {
+        skipped.append(i);
+    }
+    QJsonObject document = configDocument();
+    document.insert(u"Filters"_s, QJsonObject{{u"Tasks"_s, QJsonObject{{u"Skipped"_s, skipped}}}});
+    document.insert(u"Debugs"_s, 1);
+    QList<Finding> findings = findingsInText(QJsonDocument(document).toJson());
+    findings.removeIf([](const Finding& each) { return each.rule != Rule::WrongType; });
+    ASSERT_EQ(findings.size(), 201);
+    EXPECT_EQ(findings.at(0).pointer, u"/Filters/Tasks/Skipped/0"_s);
+    EXPECT_EQ(findings.at(199).pointer, u"/Filters/Tasks/Skipped/199"_s);
+    EXPECT_EQ(findings.at(200).message, u"99800 more findings of this rule follow, 100000 in all."_s);
+}
+
+TEST(Check, ErrorThatTheLoaderStumblesOverIsListedEvenAfterTwoHundredOthers)
+{
+    const ConfigDocumentCatalogue catalogue;
+    QJsonObject document = configDocument();
+    QJsonArray colors;
+    for (int i = 0; i < 300; ++i) {
+        colors.append(i);
+    }
+    document.insert(u"Colors"_s, colors); // wrong type
+    document.insert(u"A"_s, 1);
+    QJsonArray representations = document.value("Representations"_L1).toArray();
+    for (int i = 0; i < 300; ++i) {
+        representations.append(QJsonArray()); // 300 errors of the same rule, further down in the text but read before
+    }
+    document.insert(u"Representations"_s, representations);
+    const QList<Finding> findings = findingsInText(QJsonDocument(document).toJson());
+    EXPECT_EQ(findings.first().pointer, u"/Representations/2"_s);
+    EXPECT_EQ(findings.first().severity, Severity::Error);
+}
+
+TEST(Suggestion, IsTheNearestKnownName)
+{
+    const QStringList known{u"Voltage / V"_s, u"Current / A"_s, u"Mass"_s, u"Area"_s};
+    EXPECT_EQ(suggestion(u"Votlage / V"_s, known), u"Voltage / V"_s);
+    EXPECT_EQ(suggestion(u"voltage / v"_s, known), u"Voltage / V"_s);
+    EXPECT_EQ(suggestion(u"Current"_s, known), u"Current / A"_s);
+    EXPECT_EQ(suggestion(u"Mas"_s, known), u"Mass"_s);
+    EXPECT_EQ(suggestion(u"Viscosity"_s, known), QString());
+    EXPECT_EQ(suggestion(QString(), known), QString());
+    EXPECT_EQ(suggestion(QString(1'000'000, u'V'), known), QString());
+}
+
+TEST(DocumentSchema, ListsTheQuantitiesAndOperatorsOfTheConverter)
+{
+    const QJsonObject definitions =
+        QJsonDocument::fromJson(documentSchema()).object().value("definitions"_L1).toObject();
+    EXPECT_EQ(words(definitions.value("quantity"_L1).toObject().value("enum"_L1)),
+              QStringList(Converter::getPhysicalParameterNames()));
+    const QJsonObject unit = definitions.value("compoundUnit"_L1).toObject().value("properties"_L1).toObject();
+    EXPECT_EQ(words(unit.value("Operator"_L1).toObject().value("enum"_L1)), QStringList(Converter::getOperatorNames()));
+}
+
+TEST(CheckRules, StandInTheOrderOfTheirNumbersWithNamesOfTheirOwn)
+{
+    QSet<QString> names;
+    for (qsizetype i = 0; i < rules().size(); ++i) {
+        EXPECT_EQ(static_cast<qsizetype>(rules().at(i).rule), i);
+        names.insert(rules().at(i).name);
+    }
+    EXPECT_EQ(names.size(), rules().size());
+    EXPECT_EQ(rules().last().rule, Rule::FormulaGroup);
+}

@@ -1,0 +1,293 @@
+#!/usr/bin/env python3
+"""Runs `cluiconfig check` and `cluiconfig schema` as people do.
+
+usage: check_test.py PROGRAM SHIPPED_DOCUMENT EXAMPLES DOCS     runs the tests
+       check_test.py --table PROGRAM SHIPPED_DOCUMENT EXAMPLES DOCS   prints the table of rules of docs/check.md
+
+An example is a change to EXAMPLES/valid.json, with what is found then.
+"""
+
+import json
+import os
+import pathlib
+import pty
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+PROGRAM = ""
+SHIPPED = EXAMPLES = DOCS = pathlib.Path()
+
+
+def cluiconfig(*arguments, **options):
+    return subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, encoding="utf-8", timeout=120, **options)
+
+
+def examples():
+    return {path.stem: json.loads(path.read_text(encoding="utf-8"))
+            for path in sorted(EXAMPLES.glob("*.json")) if path.stem != "valid"}
+
+
+def changed(example):
+    valid = (EXAMPLES / "valid.json").read_text(encoding="utf-8")
+    return valid.replace(example["replace"], example["by"], 1)
+
+
+def rules():
+    """Name, severities and meaning of each, as the program lists them."""
+    lines = cluiconfig("check", "--list-rules").stdout.splitlines()
+    return [(line[:24].strip(), line[24:42].strip(), line[42:]) for line in lines]
+
+
+def table():
+    """The table of rules in the documentation: a row an example, the rules in the program's order."""
+    cell = lambda text: text.replace("|", "\\|").replace("\n", " ").strip()
+    lines = ["| Rule | Severity | Write this instead | Message |", "|---|---|---|---|"]
+    for name, severities, meaning in rules():
+        own = [(example, finding) for example in examples().values() for finding in example["findings"]
+               if finding["rule"] == name]
+        shown = set()
+        for example, finding in own:
+            message = cell(finding["message"])
+            if (finding["severity"], message) in shown or example["findings"][0]["rule"] != name:
+                continue
+            shown.add((finding["severity"], message))
+            change = "`%s` → `%s`" % (cell(example["replace"]), cell(example["by"])) if cell(example["by"]) \
+                else "`%s` removed" % cell(example["replace"])
+            lines.append("| `%s` | %s | %s | %s |" % (name, finding["severity"], change, message))
+        if not own:
+            lines.append("| `%s` | %s | | %s |" % (name, severities, cell(meaning)))
+    return "\n".join(lines) + "\n"
+
+
+class InDirectory(unittest.TestCase):
+    def setUp(self):
+        directory = tempfile.TemporaryDirectory()
+        self.addCleanup(directory.cleanup)
+        self.directory = pathlib.Path(directory.name)
+
+    def file(self, text, name="document.json"):
+        path = self.directory / name
+        path.write_bytes(text if isinstance(text, bytes) else text.encode("utf-8"))
+        return name
+
+    def check(self, *arguments, **options):
+        return cluiconfig("check", *arguments, cwd=self.directory, **options)
+
+    def findings(self, name, *arguments):
+        return json.loads(self.check("--format", "json", name, *arguments).stdout)[0]["findings"]
+
+
+class Rules(InDirectory):
+    def test_documents_without_mistakes_get_nothing_but_the_verdict(self):
+        for path in (SHIPPED, EXAMPLES / "valid.json"):
+            result = cluiconfig("check", "--strict", str(path))
+            self.assertEqual((result.returncode, result.stdout, result.stderr), (0, f"{path}: loads\n", ""))
+
+    def test_examples_have_exactly_the_findings_that_stand_with_them(self):
+        for name, example in examples().items():
+            with self.subTest(name):
+                file = self.file(changed(example))
+                self.assertNotEqual(changed(example), (EXAMPLES / "valid.json").read_text(encoding="utf-8"))
+                result = self.check("--format", "json", file)
+                self.assertEqual(json.loads(result.stdout),
+                                 [{"file": file, "loads": example["error"] is None, "error": example["error"],
+                                   "findings": example["findings"]}])
+                self.assertEqual(result.returncode, 0 if example["error"] is None else 1)
+
+    def test_every_rule_has_an_example_unless_no_document_can_break_it(self):
+        shown = {finding["rule"] for example in examples().values() for finding in example["findings"]}
+        self.assertEqual([name for name, _, _ in rules() if name not in shown], ["unreadable", "refused"])
+
+    def test_severities_of_the_examples_are_those_of_the_rules(self):
+        allowed = {name: severities.split(" or ") for name, severities, _ in rules()}
+        shown = {name: set() for name in allowed}
+        for example in examples().values():
+            for finding in example["findings"]:
+                shown[finding["rule"]].add(finding["severity"])
+        for name in allowed:
+            if shown[name]:
+                self.assertEqual((name, sorted(shown[name])), (name, sorted(allowed[name])))
+
+    def test_documentation_holds_the_table(self):
+        self.assertIn(table(), DOCS.read_text(encoding="utf-8"))
+
+    def test_a_rule_can_be_turned_off_or_made_an_error_or_a_warning(self):
+        unused = self.file(changed(examples()["unused-color"]))
+        self.assertEqual(self.check("--rule", "unused-color=off", unused).stdout, f"{unused}: loads\n")
+        result = self.check("--rule", "unused-color=error", unused)
+        self.assertEqual(result.returncode, 1)
+        self.assertIn(": error: No default uses", result.stdout)
+        self.assertEqual(self.check("--strict", unused).returncode, 1)
+
+        refused = self.file(changed(examples()["wrong-length"]))
+        result = self.check("--rule=wrong-length=warning", refused)
+        self.assertIn(": warning: ", result.stdout)
+        self.assertEqual(result.returncode, 1, "what the application refuses fails whatever the rules say")
+
+    def test_unknown_rules_and_severities_are_wrong_arguments(self):
+        for argument in ("unused-colour=off", "unused-color", "unused-color=info", "=off"):
+            result = self.check("--rule", argument, self.file("{}"))
+            self.assertEqual((argument, result.returncode, result.stdout), (argument, 2, ""))
+        self.assertIn('Did you mean "unused-color"?', self.check("--rule", "unused-colour=off", "x").stderr)
+
+
+class Output(InDirectory):
+    def test_text_has_the_verdict_a_line_a_finding_and_their_number(self):
+        name = self.file(changed(examples()["unknown-array"]))
+        self.assertEqual(self.check(name).stdout, (
+            "document.json: refused: Unexpected Y1 Voltage\n"
+            'document.json:20:68: error: The catalogue has no array "Voltage": the application refuses the document.'
+            ' Did you mean "Voltage / V"? [unknown-array at /Representations/0/Y1]\n'
+            "document.json: 1 error, 0 warnings\n"))
+
+    def test_several_documents_are_checked_independently_and_the_worst_decides(self):
+        good = self.file((EXAMPLES / "valid.json").read_text(encoding="utf-8"), "good.json")
+        bad = self.file(changed(examples()["missing-y"]), "bad.json")
+        for order in ((good, bad, good), (bad, good, bad)):
+            result = self.check(*order)
+            self.assertEqual(result.returncode, 1)
+            verdicts = [line for line in result.stdout.splitlines() if ": loads" in line or ": refused" in line]
+            self.assertEqual([verdict.split(":")[0] for verdict in verdicts], list(order))
+        self.assertEqual([report["loads"] for report in json.loads(self.check("--format=json", good, bad).stdout)],
+                         [True, False])
+        self.assertEqual(self.check(bad, "missing.json").returncode, 2)
+
+    def test_control_characters_of_a_document_do_not_reach_the_terminal(self):
+        name = self.file(json.dumps({"\u001b[31mred\u0007": 1}))
+        output = self.check(name).stdout
+        self.assertNotIn("\u001b", output)
+        self.assertIn("\\u001b[31mred\\u0007", output)
+
+    def terminal(self, **environment):
+        name = self.file(changed(examples()["wrong-length"]))
+        leader, follower = pty.openpty()
+        subprocess.run([PROGRAM, "check", name], cwd=self.directory, stdout=follower, check=False,
+                       env={**{k: v for k, v in os.environ.items() if k != "NO_COLOR"}, "TERM": "xterm", **environment})
+        os.close(follower)
+        with os.fdopen(leader, "rb") as output:
+            return output.read1(65536)
+
+    def test_colours_on_a_terminal_only_and_not_against_the_users_will(self):
+        self.assertIn(b"\033[1;31mrefused: \033[0m", self.terminal())
+        self.assertNotIn(b"\033", self.terminal(NO_COLOR="1"))
+        self.assertNotIn(b"\033", self.terminal(TERM="dumb"))
+        self.assertIn(b"\033", self.terminal(NO_COLOR=""))
+        self.assertNotIn("\033", self.check(self.file("{}")).stdout)
+
+    def test_sarif_points_at_the_same_places(self):
+        name = self.file(changed(examples()["unknown-word"]), "a b.json")
+        log = json.loads(self.check("--format", "sarif", name).stdout)
+        run = log["runs"][0]
+        self.assertEqual((log["version"], run["tool"]["driver"]["name"]), ("2.1.0", "cluiconfig"))
+        self.assertEqual([rule["id"] for rule in run["tool"]["driver"]["rules"]], [name for name, _, _ in rules()])
+        result = run["results"][0]
+        finding = examples()["unknown-word"]["findings"][0]
+        self.assertEqual((result["ruleId"], result["level"], result["message"]["text"]),
+                         ("unknown-word", "warning", finding["message"]))
+        self.assertEqual(run["tool"]["driver"]["rules"][result["ruleIndex"]]["id"], "unknown-word")
+        location = result["locations"][0]
+        self.assertEqual(location["physicalLocation"],
+                         {"artifactLocation": {"uri": "a%20b.json"},
+                          "region": {"startLine": finding["line"], "startColumn": finding["column"]}})
+        self.assertEqual(location["logicalLocations"], [{"fullyQualifiedName": finding["pointer"]}])
+
+    def test_sarif_of_an_unreadable_document_says_that_the_run_failed(self):
+        run = json.loads(self.check("--format", "sarif", "missing.json").stdout)["runs"][0]
+        self.assertEqual(run["invocations"], [{"executionSuccessful": False}])
+        self.assertEqual(run["results"][0]["ruleId"], "unreadable")
+
+    def test_wrong_arguments_exit_with_2(self):
+        for arguments in ((), ("--format", "xml", "x"), ("--strct", "x")):
+            result = self.check(*arguments)
+            self.assertEqual((arguments, result.returncode, result.stdout), (arguments, 2, ""))
+            self.assertNotEqual(result.stderr, "")
+
+
+class Hostile(InDirectory):
+    def unreadable(self, name):
+        started = time.monotonic()
+        result = self.check(name)
+        self.assertEqual(result.returncode, 2)
+        self.assertLess(time.monotonic() - started, 30)
+        return result.stdout
+
+    def test_what_cannot_be_read_is_said_and_exits_with_2(self):
+        self.assertIn("missing.json", self.unreadable("missing.json"))
+        self.assertIn("it is a directory", self.unreadable("."))
+        os.mkfifo(self.directory / "pipe")
+        self.assertIn("is no regular file", self.unreadable("pipe"))
+        self.assertIn("is no regular file", self.unreadable("/dev/zero"))
+
+    def test_a_file_without_permission_is_said_and_exits_with_2(self):
+        name = self.file("{}")
+        (self.directory / name).chmod(0)
+        self.directory.chmod(0o755)
+        options = {"user": 65534} if os.geteuid() == 0 else {}
+        try:
+            result = self.check(name, **options)
+        except PermissionError:
+            self.skipTest("only this user, who may read every file, can run the program")
+        self.assertEqual(result.returncode, 2)
+        self.assertIn('Cannot open "document.json": Permission denied', result.stdout)
+
+    def test_what_is_no_json_has_the_place_of_the_loaders_message(self):
+        for content, place in (("{\n  \"a\": [,]\n}", (2, 9)), (b"{\"a\": \"\xff\"}", (1, 8)), ("", (1, 1)),
+                               ("[" * 10_000 + "]" * 10_000, None), ("[1]", (1, 1)), ('{"a":' * 10_000, None)):
+            name = self.file(content)
+            result = self.check("--format", "json", name)
+            self.assertEqual(result.returncode, 1)
+            report = json.loads(result.stdout)[0]
+            self.assertEqual([finding["rule"] for finding in report["findings"]], ["not-json"])
+            finding = report["findings"][0]
+            self.assertIn(report["error"], finding["message"])
+            if place:
+                self.assertEqual((finding["line"], finding["column"]), place)
+
+    def test_as_deep_as_the_loader_reads(self):
+        document = json.loads((EXAMPLES / "valid.json").read_text(encoding="utf-8"))
+        document["Debug"] = []
+        text = json.dumps(document).replace('"Debug": []', '"Debug": ' + "[" * 1000 + "]" * 1000)
+        self.assertEqual([finding["rule"] for finding in self.findings(self.file(text))], ["wrong-type"])
+
+    def test_a_hundred_thousand_findings_are_counted_and_two_hundred_listed(self):
+        document = json.loads((EXAMPLES / "valid.json").read_text(encoding="utf-8"))
+        document["Tools"]["Summary Table"]["Per step"]["Step"] = [f"Step Tme {i} / s" for i in range(100_000)]
+        started = time.monotonic()
+        result = self.check(self.file(json.dumps(document)))
+        self.assertLess(time.monotonic() - started, 60)
+        lines = result.stdout.splitlines()
+        self.assertEqual(len(lines), 1 + 201 + 1)
+        self.assertIn("99800 more findings of this rule follow, 100000 in all.", lines[-2])
+
+    def test_fifty_megabytes_take_bounded_time_and_memory(self):
+        document = json.loads(SHIPPED.read_text(encoding="utf-8"))
+        entry = document["Axes combinations"][0]
+        document["Filters"]["Tasks"]["Skipped"] += ["x" * 80] * 300_000
+        document["Axes combinations"] += [dict(entry, DEFAULT_SCALE_X="linear")] * 55_000
+        text = json.dumps(document)
+        self.assertGreater(len(text), 50_000_000)
+        name = self.file(text)
+        limited = ["sh", "-c", 'ulimit -v 4000000; exec "$@"', "sh", PROGRAM, "check", name]
+        started = time.monotonic()
+        result = subprocess.run(limited, cwd=self.directory, capture_output=True, text=True, timeout=240)
+        self.assertLess(time.monotonic() - started, 180)
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        self.assertIn("55000 in all.", result.stdout)
+
+
+class Schema(unittest.TestCase):
+    def test_prints_the_schema_that_is_installed(self):
+        installed = SHIPPED.parent / "UIConfig.schema.json"
+        self.assertEqual(cluiconfig("schema").stdout, installed.read_text(encoding="utf-8"))
+
+
+if __name__ == "__main__":
+    arguments = [argument for argument in sys.argv[1:] if argument != "--table"]
+    PROGRAM, SHIPPED, EXAMPLES, DOCS = (pathlib.Path(argument).resolve() for argument in arguments)
+    if "--table" in sys.argv:
+        print(table(), end="")
+    else:
+        unittest.main(argv=sys.argv[:1])
