@@ -114,6 +114,20 @@ class Rules(InDirectory):
     def test_documentation_holds_the_table(self):
         self.assertIn(table(), DOCS.read_text(encoding="utf-8"))
 
+    def test_the_session_in_the_documentation_happens_as_it_is_told(self):
+        told = DOCS.read_text(encoding="utf-8").split("## A first session")[1].split("```")[1].strip() + "\n"
+        self.file((EXAMPLES / "session" / "UIConfig.json").read_text(encoding="utf-8"), "UIConfig.json")
+        (self.directory / "bin").mkdir()
+        (self.directory / "bin" / "cluiconfig").symlink_to(PROGRAM)
+        environment = {**os.environ, "PATH": f"{self.directory / 'bin'}:{os.environ['PATH']}"}
+        happened = ""
+        for command in [line[2:] for line in told.splitlines() if line.startswith("$ ")]:
+            result = subprocess.run(["sh", "-c", command], cwd=self.directory, env=environment, capture_output=True,
+                                    text=True, timeout=60)
+            self.assertEqual(result.stderr, "")
+            happened += f"$ {command}\n{result.stdout}"
+        self.assertEqual(happened, told)
+
     def test_a_rule_can_be_turned_off_or_made_an_error_or_a_warning(self):
         unused = self.file(changed(examples()["unused-color"]))
         self.assertEqual(self.check("--rule", "unused-color=off", unused).stdout, f"{unused}: loads\n")
@@ -276,6 +290,19 @@ class Hostile(InDirectory):
         self.assertLess(time.monotonic() - started, 180)
         self.assertEqual((result.returncode, result.stderr), (0, ""))
         self.assertIn("55000 in all.", result.stdout)
+
+
+class Speed(unittest.TestCase):
+    def test_checking_the_shipped_document_takes_at_most_five_times_what_loading_takes(self):
+        def fastest(*arguments):
+            times = []
+            for _ in range(10):
+                started = time.monotonic()
+                subprocess.run([PROGRAM, *arguments], stdout=subprocess.DEVNULL, check=True)
+                times.append(time.monotonic() - started)
+            return min(times)
+
+        self.assertLess(fastest("check", SHIPPED), 5 * fastest("show", SHIPPED))
 
 
 class Schema(unittest.TestCase):
