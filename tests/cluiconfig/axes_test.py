@@ -57,9 +57,9 @@ class Axes(program.TestCase):
         self.assertEqual(self.message(1, "axes", self.document(), "0815"),
                          'No axes combination has "0815" on its X axis.\n')
 
-    def test_missing_document_is_no_name_and_cannot_be_read(self):
+    def test_missing_document_is_no_name_and_does_not_load(self):
         for words in (["missing.json"], ["missing", "X", "Y"]):
-            message = self.message(2, "axes", *words)
+            message = self.message(1, "axes", *words)
             self.assertIn(f'Cannot open "{words[0]}"', message)
 
     def test_refused_document_gives_the_message_of_the_loader_and_exit_code_1(self):

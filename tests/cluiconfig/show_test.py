@@ -113,11 +113,11 @@ class Show(unittest.TestCase):
             self.assertEqual(program.wait(60), 0)
         return output.decode()
 
-    def test_document_that_cannot_be_opened_gives_exit_code_2(self):
+    def test_document_that_cannot_be_opened_gives_exit_code_1(self):
         directory = str(self.path.parent)
         for path, reason in ((directory, "it is a directory"), (str(self.path), "")):
             result = cluiconfig("show", path)
-            self.assertEqual((result.returncode, result.stdout), (2, ""))
+            self.assertEqual((result.returncode, result.stdout), (1, ""))
             self.assertIn(f'Cannot open "{path}": {reason}', result.stderr)
 
     @unittest.skipUnless(hasattr(os, "mkfifo"), "needs named pipes")

@@ -149,7 +149,8 @@ void addAxesCommand(CLI::App& program)
   cluiconfig axes "Test Time / s" "Voltage / V"          all about the pair
   cluiconfig axes my.json "Test Time / s" "Voltage / V"  the same in a document of your own
 
-Exit code: 0, 1 when there is no such axis or the application would refuse the document, 2 when it cannot be read.)");
+Exit code: 0, 1 when there is no such axis or the application would not load the document, 2 when the command could not
+run.)");
     command->callback([options] { axes(*options); });
 }
 

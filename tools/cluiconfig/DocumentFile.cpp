@@ -12,25 +12,38 @@ using namespace Qt::StringLiterals;
 
 namespace cluiconfig {
 
-void requireReadableFile(const QString& path)
+namespace {
+
+constexpr auto CannotOpen = "Cannot open \"%1\": %2"_L1;
+
+/// Reading a pipe may never end.
+void refusePipe(const QString& path)
 {
     const QFileInfo info(path);
-    const QString sentence = u"Cannot open \"%1\": %2"_s;
-    if (info.isDir()) {
-        fail(sentence.arg(path, u"it is a directory"_s).toStdString());
+    if (info.exists() && !info.isFile() && !info.isDir()) {
+        fail(QString(CannotOpen)
+                 .arg(path, u"it is a pipe or a device; save what it gives to a file first"_s)
+                 .toStdString());
     }
-    if (info.exists() && !info.isFile()) {
-        fail(sentence.arg(path, u"it is a pipe or a device; save what it gives to a file first"_s).toStdString());
+}
+
+} // namespace
+
+void requireReadableFile(const QString& path)
+{
+    refusePipe(path);
+    if (QFileInfo(path).isDir()) {
+        fail(QString(CannotOpen).arg(path, u"it is a directory"_s).toStdString());
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        fail(sentence.arg(path, file.errorString()).toStdString());
+        fail(QString(CannotOpen).arg(path, file.errorString()).toStdString());
     }
 }
 
 QJsonObject loadDocument(const QString& path, UIConfig& config)
 {
-    requireReadableFile(path);
+    refusePipe(path);
     QString error;
     QJsonObject root;
     if (!config.readUIConfiguration(path, error) || !cl::datastorage::JsonUtils::openJsonDocument(path, error, root)) {

@@ -14,8 +14,8 @@ constexpr auto ShippedDocument = ":/cluiconfig/UIConfig.json";
 /// is not a regular file is refused without being opened: reading a pipe may never end.
 void requireReadableFile(const QString& path);
 
-/// Loads \p path into \p config as the application does, and returns the document. Ends the command when there is no
-/// such file (ExitCannotRun), and with the loader's sentence when it refuses the document (ExitRefused).
+/// Loads \p path into \p config as the application does, and returns the document. Ends the command with the loader's
+/// sentence when it does not load (ExitRefused), and without asking it for a pipe or a device (ExitCannotRun).
 ///
 /// REQUIRES: nothing has been loaded into \p config before.
 QJsonObject loadDocument(const QString& path, UIConfig& config);

@@ -75,7 +75,7 @@ Examples:
   cluiconfig show my.json --section Palette    the palette alone
   cluiconfig show my.json --format json        all of it, for a program
 
-Exit code: 0, 1 when the application would refuse the document, 2 when it cannot be read.)");
+Exit code: 0, 1 when the application would not load the document, 2 when the command could not run.)");
     command->callback([options] { show(*options); });
 }
 
