@@ -44,7 +44,7 @@ def rules():
 def table():
     """The table of rules in the documentation: a row an example, the rules in the program's order."""
     cell = lambda text: text.replace("|", "\\|").replace("\n", " ").strip()
-    lines = ["| Rule | Severity | Write this instead | Message |", "|---|---|---|---|"]
+    lines = ["| Rule | Severity | Mistake | Message |", "|---|---|---|---|"]
     for name, severities, meaning in rules():
         own = [(example, finding) for example in examples().values() for finding in example["findings"]
                if finding["rule"] == name]

@@ -171,6 +171,16 @@ TEST(Check, ErrorThatTheLoaderStumblesOverIsListedEvenAfterTwoHundredOthers)
     EXPECT_EQ(findings.first().severity, Severity::Error);
 }
 
+TEST(Check, CategoriesOfASummaryTableAreReadInAlphabeticalOrderWhateverTheyAreCalled)
+{
+    const ConfigDocumentCatalogue catalogue;
+    const QByteArray bytes =
+        QJsonDocument(configDocument()).toJson().replace("\"Per step\": {", R"("Per step": { "Name": 1, "A": 2,)");
+    const QList<Finding> findings = findingsInText(bytes);
+    EXPECT_EQ(findings.first().pointer, u"/Tools/Summary Table/Per step/A"_s);
+    EXPECT_EQ(findings.first().severity, Severity::Error);
+}
+
 TEST(Suggestion, IsTheNearestKnownName)
 {
     const QStringList known{u"Voltage / V"_s, u"Current / A"_s, u"Mass"_s, u"Area"_s};

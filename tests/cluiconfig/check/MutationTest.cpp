@@ -66,7 +66,7 @@ private:
     {
         const char* const values[] = {"0", "\"text\"", "[]", "{}", "null"};
         const QByteArray value = values[below(std::ssize(values))];
-        if (below(10) == 0) {
+        if (bytes.contains(':') && below(10) == 0) {
             const QByteArray keys[] = {"Version", "Colors", "Axes combinations", "Debug", "dQ_dU"};
             const QByteArray member = '"' + keys[below(std::ssize(keys))] + "\": " + value;
             if (below(2) == 0) {
@@ -189,6 +189,7 @@ TEST(CheckedMutations, HaveAnErrorExactlyWhenTheLoaderRefusesThemAndItsPlaceIsFi
     const int total = mutations();
     for (int i = 0; i < total; ++i) {
         const QByteArray bytes = mutator.mutated(shipped);
+        ASSERT_TRUE(QJsonDocument::fromJson(bytes).isObject()) << bytes.constData();
         file.write(bytes);
         config.deleteAll();
         QString message;

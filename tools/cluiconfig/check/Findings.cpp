@@ -54,19 +54,25 @@ bool isEarlier(const Finding& a, const Finding& b)
 LoadOrder Findings::loadOrder(const Value& place, const QString& missingKey, qint64 step)
 {
     constexpr size_t EntryOfASection = 2;
+    constexpr size_t CategoryOfASummaryTable = 3;
+    const std::vector<Value::Step> path = place.path();
+    const bool isInTools = !path.empty() && path.front().key == u"Tools"_s;
     LoadOrder order;
-    for (const Value::Step& each : place.path()) {
-        if (order.size() == EntryOfASection) {
+    for (size_t depth = 0; depth < path.size(); ++depth) {
+        const Value::Step& each = path[depth];
+        if (depth == EntryOfASection) {
             order.emplace_back(step, QString());
         }
         if (each.isElement) {
             order.emplace_back(each.number, QString());
+        } else if (isInTools && depth == CategoryOfASummaryTable) {
+            order.emplace_back(0, each.key); // any name may stand there: the alphabet decides
         } else {
             order.emplace_back(readingRank(each.key), each.key);
         }
     }
     if (!missingKey.isEmpty()) {
-        if (order.size() == EntryOfASection) {
+        if (path.size() == EntryOfASection) {
             order.emplace_back(step, QString());
         }
         order.emplace_back(readingRank(missingKey), missingKey);
