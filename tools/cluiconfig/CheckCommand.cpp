@@ -1,11 +1,10 @@
 #include "Commands.h"
-#include "Terminal.h"
+#include "Output.h"
 #include "check/Check.h"
 #include "check/Reports.h"
 #include "check/Suggest.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,11 +27,6 @@ struct CheckOptions
     std::vector<std::string> rules;
     bool listsRules = false;
 };
-
-void print(const QByteArray& output)
-{
-    std::fwrite(output.constData(), 1, static_cast<size_t>(output.size()), stdout);
-}
 
 QString severityText(const check::RuleDescription& rule)
 {
@@ -103,7 +97,7 @@ void runCheck(const CheckOptions& options)
         const Report report = check::check(QString::fromStdString(document), chosen);
         code = std::max(code, exitCode(report, options.isStrict));
         if (options.format == "text") {
-            print(check::asText(report, showsColors(stdout)));
+            print(check::asText(report, colorDepth() != ColorDepth::None));
         } else {
             reports.append(report);
         }

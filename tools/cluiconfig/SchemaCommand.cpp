@@ -1,7 +1,6 @@
 #include "Commands.h"
+#include "Output.h"
 #include "check/Structure.h"
-
-#include <cstdio>
 
 namespace cluiconfig {
 
@@ -16,10 +15,7 @@ void addSchemaCommand(CLI::App& program)
         "\n"
         "Example:\n"
         "  cluiconfig schema > UIConfig.schema.json");
-    command->callback([] {
-        const QByteArray schema = check::documentSchema();
-        std::fwrite(schema.constData(), 1, static_cast<size_t>(schema.size()), stdout);
-    });
+    command->callback([] { print(check::documentSchema()); });
 }
 
 } // namespace cluiconfig
