@@ -14,7 +14,6 @@ import pty
 import subprocess
 import sys
 import tempfile
-import time
 import unittest
 
 PROGRAM = ""
@@ -222,10 +221,8 @@ class Output(InDirectory):
 
 class Hostile(InDirectory):
     def unreadable(self, name):
-        started = time.monotonic()
         result = self.check(name)
         self.assertEqual(result.returncode, 2)
-        self.assertLess(time.monotonic() - started, 30)
         return result.stdout
 
     def test_what_cannot_be_read_is_said_and_exits_with_2(self):
@@ -269,9 +266,7 @@ class Hostile(InDirectory):
     def test_a_hundred_thousand_findings_are_counted_and_two_hundred_listed(self):
         document = json.loads((EXAMPLES / "valid.json").read_text(encoding="utf-8"))
         document["Tools"]["Summary Table"]["Per step"]["Step"] = [f"Step Tme {i} / s" for i in range(100_000)]
-        started = time.monotonic()
         result = self.check(self.file(json.dumps(document)))
-        self.assertLess(time.monotonic() - started, 60)
         lines = result.stdout.splitlines()
         self.assertEqual(len(lines), 1 + 201 + 1)
         self.assertIn("99800 more findings of this rule follow, 100000 in all.", lines[-2])
@@ -285,24 +280,9 @@ class Hostile(InDirectory):
         self.assertGreater(len(text), 50_000_000)
         name = self.file(text)
         limited = ["sh", "-c", 'ulimit -v 4000000; exec "$@"', "sh", PROGRAM, "check", name]
-        started = time.monotonic()
         result = subprocess.run(limited, cwd=self.directory, capture_output=True, text=True, timeout=240)
-        self.assertLess(time.monotonic() - started, 180)
         self.assertEqual((result.returncode, result.stderr), (0, ""))
         self.assertIn("55000 in all.", result.stdout)
-
-
-class Speed(unittest.TestCase):
-    def test_checking_the_shipped_document_takes_at_most_five_times_what_loading_takes(self):
-        def fastest(*arguments):
-            times = []
-            for _ in range(10):
-                started = time.monotonic()
-                subprocess.run([PROGRAM, *arguments], stdout=subprocess.DEVNULL, check=True)
-                times.append(time.monotonic() - started)
-            return min(times)
-
-        self.assertLess(fastest("check", SHIPPED), 5 * fastest("show", SHIPPED))
 
 
 class Schema(unittest.TestCase):

@@ -43,12 +43,26 @@ void useBytes()
 #endif
 }
 
+namespace {
+
+/// Whether writing failed because nobody reads any more, which the C library of Windows calls an invalid argument.
+bool isReaderGone(int error)
+{
+#ifdef _WIN32
+    return error == EPIPE || error == EINVAL;
+#else
+    return error == EPIPE;
+#endif
+}
+
+} // namespace
+
 void print(const QByteArray& bytes)
 {
     useBytes();
     const auto size = static_cast<std::size_t>(bytes.size());
     const bool written = std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
-    if (!written && errno != EPIPE) {
+    if (!written && !isReaderGone(errno)) {
         fail(std::string("standard output: ") + std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): one thread
     }
 }

@@ -8,11 +8,7 @@
 #include <QFile>
 
 #include <algorithm>
-#include <array>
-#include <cerrno>
-#include <charconv>
 #include <cstdio>
-#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -71,59 +67,22 @@ std::vector<std::string_view> splitLines(std::string_view text)
     return lines;
 }
 
-/// Collects the output in large pieces. Once the reader has gone away nothing more is written.
-class Output
-{
-public:
-    void add(std::string_view bytes)
-    {
-        if (m_buffer.size() + bytes.size() > capacity) {
-            flush();
-        }
-        m_buffer.append(bytes);
-    }
-    void add(int number)
-    {
-        std::array<char, 12> digits{};
-        const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
-        add(std::string_view(digits.data(), static_cast<std::size_t>(result.ptr - digits.data())));
-    }
-    bool isBroken() const { return m_isBroken; }
-    bool flush()
-    {
-        m_isBroken = m_isBroken || std::fwrite(m_buffer.data(), 1, m_buffer.size(), stdout) != m_buffer.size()
-            || std::fflush(stdout) != 0;
-        m_buffer.clear();
-        return !m_isBroken;
-    }
-
-private:
-    static constexpr std::size_t capacity = std::size_t{1} << 18;
-
-    std::string m_buffer;
-    bool m_isBroken = false;
-};
-
-void print(const std::vector<FuzzyMatch>& matches, const std::vector<std::string_view>& lines,
-           const SearchOptions& options)
+void printBestFirst(const std::vector<FuzzyMatch>& matches, const std::vector<std::string_view>& lines,
+                    const SearchOptions& options)
 {
     std::size_t count = matches.size();
     if (options.maxResults >= 0) {
         count = std::min(count, static_cast<std::size_t>(options.maxResults));
     }
-    Output output;
-    for (std::size_t i = 0; i < count && !output.isBroken(); ++i) {
+    QByteArray output;
+    for (std::size_t i = 0; i < count; ++i) {
         if (options.scores) {
-            output.add(matches[i].score);
-            output.add("\t");
+            output.append(QByteArray::number(matches[i].score)).append('\t');
         }
-        output.add(lines[matches[i].index]);
-        output.add("\n");
+        const std::string_view line = lines[matches[i].index];
+        output.append(line.data(), static_cast<qsizetype>(line.size())).append('\n');
     }
-    const bool written = output.flush();
-    if (!written && errno != EPIPE) {
-        fail(std::string("standard output: ") + std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): one thread
-    }
+    print(output);
 }
 
 void search(const SearchOptions& options)
@@ -131,9 +90,9 @@ void search(const SearchOptions& options)
     useBytes();
     const QByteArray bytes = readInput(options);
     const std::vector<std::string_view> lines = splitLines({bytes.constData(), static_cast<std::size_t>(bytes.size())});
-    print(options.strategy == TextStrategy ? FtsStrategy::rank(options.query, lines)
-                                           : TechniqueSearchStrategy::rank(options.query, lines),
-          lines, options);
+    printBestFirst(options.strategy == TextStrategy ? FtsStrategy::rank(options.query, lines)
+                                                    : TechniqueSearchStrategy::rank(options.query, lines),
+                   lines, options);
 }
 
 } // namespace
