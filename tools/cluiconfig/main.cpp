@@ -55,7 +55,8 @@ int main(int argc, char* argv[])
                                              "data/DataArrays.json; the shipped one when none is named.");
     program.footer(R"(cluiconfig COMMAND --help tells more, with examples. To begin with:
   cluiconfig show                   what the shipped document gives
-  cluiconfig show my.json           the same for a document of your own, or why it is refused
+  cluiconfig check my.json          what is wrong with a document of your own, and what to write instead
+  cluiconfig show my.json           what that document gives
   cluiconfig axes "Test Time / s"   what may be plotted over time
   cluiconfig diff old.json my.json  what a change does)");
     cluiconfig::addShowCommand(program);
