@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -115,13 +116,13 @@ QList<qsizetype> outOfOrder(const QList<qsizetype>& places)
             *position = i;
         }
     }
-    QList<bool> isInOrder(places.size(), false);
+    std::vector<bool> isInOrder(static_cast<size_t>(places.size()), false);
     for (qsizetype i = ends.isEmpty() ? NoRow : ends.constLast(); i != NoRow; i = previous.at(i)) {
-        isInOrder[i] = true;
+        isInOrder[static_cast<size_t>(i)] = true;
     }
     QList<qsizetype> others;
     for (qsizetype i = 0; i < places.size(); ++i) {
-        if (places.at(i) != NoRow && !isInOrder.at(i)) {
+        if (places.at(i) != NoRow && !isInOrder[static_cast<size_t>(i)]) {
             others.append(i);
         }
     }
