@@ -1,11 +1,11 @@
 #include <axes/AxesCombinationManager.h>
 
-#include <axes/private/JsonFields.h>
 #include <axes/private/RecordList.h>
 #include <batterydata/ClConfigDataArray.h>
 #include <config/ConfigRepresentation.h>
 #include <dataprocess/IDataStream.h>
 
+#include <QJsonArray>
 #include <QSet>
 
 #include <vector>

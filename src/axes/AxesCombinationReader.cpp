@@ -57,7 +57,8 @@ std::optional<NamedArrays> resolveReference(const ClConfigDataArrayManager& cata
     const QString category = reference.text(CategoryKey);
     NamedArrays arrays;
     if (category.isEmpty()) {
-        for (const auto* array : catalogue.getConfigDataArrays(name)) {
+        const auto named = catalogue.getConfigDataArrays(name);
+        for (const auto* array : named) {
             arrays.append({array});
         }
     } else if (const auto* array = catalogue.getConfigDataArray(name, category)) {

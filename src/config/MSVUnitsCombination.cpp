@@ -1,7 +1,5 @@
 #include <config/MSVUnitsCombination.h>
 
-#include <axes/private/JsonFields.h>
-
 #include <QJsonArray>
 
 using namespace Qt::StringLiterals;

@@ -41,12 +41,20 @@ void requireReadableFile(const QString& path)
     }
 }
 
-QJsonObject loadDocument(const QString& path, UIConfig& config)
+void loadDocument(const QString& path, UIConfig& config)
 {
     refusePipe(path);
     QString error;
+    if (!config.readUIConfiguration(path, error)) {
+        fail(error.toStdString(), ExitRefused);
+    }
+}
+
+QJsonObject openDocument(const QString& path)
+{
+    QString error;
     QJsonObject root;
-    if (!config.readUIConfiguration(path, error) || !cl::datastorage::JsonUtils::openJsonDocument(path, error, root)) {
+    if (!cl::datastorage::JsonUtils::openJsonDocument(path, error, root)) {
         fail(error.toStdString(), ExitRefused);
     }
     return root;

@@ -14,10 +14,16 @@ constexpr auto ShippedDocument = ":/cluiconfig/UIConfig.json";
 /// is not a regular file is refused without being opened: reading a pipe may never end.
 void requireReadableFile(const QString& path);
 
-/// Loads \p path into \p config as the application does, and returns the document. Ends the command with the loader's
-/// sentence when it does not load (ExitRefused), and without asking it for a pipe or a device (ExitCannotRun).
+/// Loads \p path into \p config as the application does. Ends the command with the loader's sentence when it does not
+/// load (ExitRefused), and without asking it for a pipe or a device (ExitCannotRun).
 ///
 /// REQUIRES: nothing has been loaded into \p config before.
-QJsonObject loadDocument(const QString& path, UIConfig& config);
+void loadDocument(const QString& path, UIConfig& config);
+
+/// The document itself, for what the configuration does not tell. Ends the command when it cannot be opened
+/// (ExitRefused).
+///
+/// REQUIRES: loadDocument() has loaded it.
+QJsonObject openDocument(const QString& path);
 
 } // namespace cluiconfig

@@ -47,8 +47,9 @@ QList<Table> chosen(const QList<Table>& tables, const QString& name)
 void show(const ShowOptions& options)
 {
     auto& config = lumo::tools::Singleton<UIConfig>::instance();
-    const QJsonObject root = loadDocument(QString::fromStdString(options.document), config);
-    QList<Table> tables = documentTables(config, root);
+    const QString path = QString::fromStdString(options.document);
+    loadDocument(path, config);
+    QList<Table> tables = documentTables(config, openDocument(path));
     if (!options.section.empty()) {
         tables = chosen(tables, QString::fromStdString(options.section));
     }
