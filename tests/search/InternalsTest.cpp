@@ -40,12 +40,33 @@ struct SetPair
     SetPair(GeneratedTexts& random, std::size_t count)
     {
         for (std::size_t i = 0; i < count; ++i) {
-            const std::size_t position = random.below(static_cast<std::size_t>(PositionSet<Words>::capacity));
-            ours.add(1, position);
-            theirs.insert(static_cast<int>(position));
+            add(static_cast<int>(random.below(64 * Words)));
         }
     }
+    void add(int position)
+    {
+        const std::uint64_t bit = std::uint64_t{1} << (position % 64);
+        if constexpr (Words == 2) {
+            ours = ours | (position < 64 ? PositionSet<2>(bit, 0) : PositionSet<2>(0, bit));
+        } else {
+            ours = ours | PositionSet<1>(bit);
+        }
+        theirs.insert(position);
+    }
 };
+
+/// The positions below \p capacity for which \p holds says true.
+template <class Predicate>
+std::set<int> allThat(int capacity, Predicate holds)
+{
+    std::set<int> positions;
+    for (int i = 0; i < capacity; ++i) {
+        if (holds(i)) {
+            positions.insert(i);
+        }
+    }
+    return positions;
+}
 
 template <class Constant>
 class PositionSetTest : public testing::Test
@@ -56,43 +77,45 @@ TYPED_TEST_SUITE(PositionSetTest, BothSizes);
 
 TYPED_TEST(PositionSetTest, BehavesLikeASetOfNumbers)
 {
-    constexpr int capacity = PositionSet<TypeParam::value>::capacity;
+    constexpr int words = TypeParam::value;
+    constexpr int capacity = PositionSet<words>::capacity;
     GeneratedTexts random(1);
-    for (int round = 0; round < 300; ++round) {
-        const SetPair<TypeParam::value> set(random, random.below(20));
-        const SetPair<TypeParam::value> other(random, random.below(20));
+    for (int round = 0; round < 3'000; ++round) {
+        const SetPair<words> set(random, random.below(round % 2 == 0 ? 20 : 4));
+        const SetPair<words> other(random, random.below(20));
+        const auto isIn = [](const SetPair<words>& pair, int position) { return pair.theirs.count(position) != 0; };
         ASSERT_EQ(positionsIn(set.ours), set.theirs);
         EXPECT_EQ(set.ours.empty(), set.theirs.empty());
+        EXPECT_EQ(set.ours == other.ours, set.theirs == other.theirs);
         EXPECT_EQ(set.ours.count(), static_cast<int>(set.theirs.size()));
-        for (int i = 0; i < capacity; ++i) {
-            EXPECT_EQ(positionsIn(set.ours.below(i)), std::set<int>(set.theirs.begin(), set.theirs.lower_bound(i)));
-            EXPECT_EQ(positionsIn(set.ours.above(i)), std::set<int>(set.theirs.upper_bound(i), set.theirs.end()));
+        EXPECT_EQ(PositionSet<words>::weightedCount(set.ours, other.ours),
+                  static_cast<int>(set.theirs.size() + 2 * other.theirs.size()));
+        EXPECT_EQ(positionsIn(set.ours & other.ours),
+                  allThat(capacity, [&](int i) { return isIn(set, i) && isIn(other, i); }));
+        EXPECT_EQ(positionsIn(set.ours | other.ours),
+                  allThat(capacity, [&](int i) { return isIn(set, i) || isIn(other, i); }));
+        EXPECT_EQ(positionsIn(set.ours - other.ours),
+                  allThat(capacity, [&](int i) { return isIn(set, i) && !isIn(other, i); }));
+        EXPECT_EQ(positionsIn(set.ours.next()), allThat(capacity, [&](int i) { return isIn(set, i - 1); }));
+        EXPECT_EQ(positionsIn(set.ours.previous()), allThat(capacity, [&](int i) { return isIn(set, i + 1); }));
+
+        const int lowest = set.theirs.empty() ? capacity : *set.theirs.begin();
+        const int highest = set.theirs.empty() ? 0 : *set.theirs.rbegin();
+        EXPECT_EQ(positionsIn(set.ours.lowest()), allThat(capacity, [&](int i) { return i == lowest; }));
+        EXPECT_EQ(positionsIn(set.ours.allAboveLowest()), allThat(capacity, [&](int i) { return i > lowest; }));
+        EXPECT_EQ(positionsIn(set.ours.allBelowLowest()), allThat(capacity, [&](int i) { return i < lowest; }));
+        EXPECT_EQ(positionsIn(set.ours.allBelowHighest()), allThat(capacity, [&](int i) { return i < highest; }));
+        if (!set.theirs.empty()) {
+            EXPECT_EQ(positionsIn(set.ours.highest()), std::set<int>{highest});
         }
-        std::set<int> next;
-        std::set<int> both;
-        for (const int position : set.theirs) {
-            if (position + 1 < capacity) {
-                next.insert(position + 1);
-            }
-            if (other.theirs.count(position) != 0) {
-                both.insert(position);
-            }
+        for (int limit = 0; limit <= 9; ++limit) {
+            const auto end = std::next(set.theirs.begin(), std::min<std::ptrdiff_t>(limit, std::ssize(set.theirs)));
+            EXPECT_EQ(positionsIn(set.ours.first(limit)), std::set<int>(set.theirs.begin(), end));
         }
-        EXPECT_EQ(positionsIn(set.ours.next()), next);
-        EXPECT_EQ(positionsIn(set.ours & other.ours), both);
-        if (set.theirs.empty()) {
-            continue;
-        }
-        EXPECT_EQ(set.ours.lowest(), *set.theirs.begin());
-        EXPECT_EQ(set.ours.highest(), *set.theirs.rbegin());
-        for (std::size_t count = 0; count < set.theirs.size(); ++count) {
-            const auto end = std::next(set.theirs.begin(), static_cast<std::ptrdiff_t>(count));
-            EXPECT_EQ(positionsIn(set.ours.first(static_cast<int>(count))), std::set<int>(set.theirs.begin(), end));
-        }
-        auto less = set.ours;
-        less.remove(set.ours.highest());
-        EXPECT_EQ(positionsIn(less), std::set<int>(set.theirs.begin(), std::prev(set.theirs.end())));
     }
+    EXPECT_EQ(positionsIn(PositionSet<words>::none()), std::set<int>());
+    EXPECT_EQ(PositionSet<words>::all().count(), capacity);
+    EXPECT_EQ(PositionSet<1>::weightedCount(PositionSet<1>::all(), PositionSet<1>::all()), 3 * 64);
 }
 
 /// Every chunk class there is must answer like the standard library does for single bytes in the "C" locale.
@@ -107,17 +130,17 @@ using Chunks = testing::Types<search::PortableChunk>;
 #endif
 TYPED_TEST_SUITE(ChunkTest, Chunks);
 
-template <int Words, class AChunk>
-void expectBlocksToAnswerLikeBytes(GeneratedTexts& random)
+template <int Chunks, class AChunk>
+void expectBlocksToAnswerLikeBytes(GeneratedTexts& random, std::size_t shortest)
 {
+    using Block = search::TextBlock<Chunks, AChunk>;
     for (int round = 0; round < 600; ++round) {
-        const std::size_t capacity = static_cast<std::size_t>(PositionSet<Words>::capacity);
-        std::string text = random.candidate(random.query(12)).substr(0, capacity);
-        text.append(capacity, 'a');
-        text.resize(1 + random.below(capacity));
+        std::string text = random.candidate(random.query(12)).substr(0, Block::capacity);
+        text.append(Block::capacity, 'a');
+        text.resize(shortest + random.below(Block::capacity - shortest + 1));
         // In a buffer of its very size, so that reading outside of it is found.
         const std::vector<char> exact(text.begin(), text.end());
-        const search::TextBlock<Words, AChunk> block(std::string_view(exact.data(), exact.size()));
+        const Block block(std::string_view(exact.data(), exact.size()));
 
         std::map<unsigned char, std::set<int>> places;
         std::set<int> wordStarts;
@@ -136,7 +159,7 @@ void expectBlocksToAnswerLikeBytes(GeneratedTexts& random)
             }
         }
         auto found = positionsIn(block.wordStarts());
-        found.erase(static_cast<int>(text.size())); // a gap at the end starts a word that is not there
+        found.erase(found.lower_bound(static_cast<int>(text.size())), found.end()); // no letter is there
         ASSERT_EQ(found, wordStarts) << text;
     }
 }
@@ -144,8 +167,9 @@ void expectBlocksToAnswerLikeBytes(GeneratedTexts& random)
 TYPED_TEST(ChunkTest, BlocksAnswerLikeSingleBytes)
 {
     GeneratedTexts random(2);
-    expectBlocksToAnswerLikeBytes<1, TypeParam>(random);
-    expectBlocksToAnswerLikeBytes<2, TypeParam>(random);
+    expectBlocksToAnswerLikeBytes<4, TypeParam>(random, 1);
+    expectBlocksToAnswerLikeBytes<5, TypeParam>(random, 65);
+    expectBlocksToAnswerLikeBytes<8, TypeParam>(random, 81);
 }
 
 bool containsInOrder(std::string_view query, std::string_view text)

@@ -55,6 +55,14 @@ public:
         }
         return bits;
     }
+    /// Every byte moved on by one, and a NUL first.
+    PortableChunk movedOn() const
+    {
+        PortableChunk moved;
+        moved.m_bytes[0] = 0;
+        std::memcpy(moved.m_bytes.data() + 1, m_bytes.data(), chunkSize - 1);
+        return moved;
+    }
 
 private:
     std::array<unsigned char, chunkSize> m_bytes;
@@ -75,24 +83,31 @@ public:
     Sse2Chunk inLowerCase() const
     {
         Sse2Chunk lower;
-        lower.m_bytes = _mm_or_si128(m_bytes, _mm_and_si128(between('A', 'Z'), _mm_set1_epi8('a' - 'A')));
+        lower.m_bytes = _mm_or_si128(m_bytes, _mm_and_si128(from<'A'>(), _mm_set1_epi8('a' - 'A')));
         return lower;
     }
     unsigned equalTo(unsigned char byte) const { return bits(equal(static_cast<char>(byte))); }
     unsigned wordStarts(const Sse2Chunk& previous) const
     {
         const __m128i afterGap = _mm_or_si128(previous.equal('_'), previous.equal(' '));
-        return bits(_mm_or_si128(afterGap, _mm_and_si128(previous.between('a', 'z'), between('A', 'Z'))));
+        return bits(_mm_or_si128(afterGap, _mm_and_si128(previous.from<'a'>(), from<'A'>())));
+    }
+    Sse2Chunk movedOn() const
+    {
+        Sse2Chunk moved;
+        moved.m_bytes = _mm_slli_si128(m_bytes, 1);
+        return moved;
     }
 
 private:
     static unsigned bits(__m128i flags) { return static_cast<unsigned>(_mm_movemask_epi8(flags)); }
     __m128i equal(char byte) const { return _mm_cmpeq_epi8(m_bytes, _mm_set1_epi8(byte)); }
-    // The comparisons are signed: a byte above 127 is below every letter.
-    __m128i between(char first, char last) const
+    /// Where one of the 26 letters from First on is. The comparison is signed, so First becomes the lowest number.
+    template <char First>
+    __m128i from() const
     {
-        return _mm_and_si128(_mm_cmpgt_epi8(m_bytes, _mm_set1_epi8(static_cast<char>(first - 1))),
-                             _mm_cmplt_epi8(m_bytes, _mm_set1_epi8(static_cast<char>(last + 1))));
+        const __m128i moved = _mm_add_epi8(m_bytes, _mm_set1_epi8(static_cast<char>(-128 - First)));
+        return _mm_cmplt_epi8(moved, _mm_set1_epi8(-128 + 26));
     }
 
     __m128i m_bytes;

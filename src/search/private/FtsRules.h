@@ -20,7 +20,7 @@ inline constexpr std::size_t longestQuery = 256;
 /// How many branches an exploration follows besides the first path.
 inline constexpr int branchLimit = 8;
 
-inline int latePoints(int position)
+constexpr int latePoints(int position)
 {
     return -std::min(latePenalty * position, latePenaltyLimit);
 }

@@ -105,214 +105,255 @@ private:
     int m_branches = branchLimit;
 };
 
-/// The same exploration in a text of at most 64 * Words bytes, with sets of positions: the places of a letter are found
-/// together, counted together and, once no branches are left, completed together where they lead to the same.
-template <int Words>
+/// The same exploration in a text of at most 16 * Chunks bytes, with sets of positions: the places of a letter are
+/// found together, counted together and, once no branches are left, completed together where they lead to the same. A
+/// branch of the program costs more than all else here whenever it goes another way than the last time, so there are
+/// few.
+template <int Chunks>
 class BlockExploration
 {
 public:
-    BlockExploration(std::string_view letters, std::string_view text)
-        : m_letters(letters)
-        , m_text(text)
-        , m_block(text)
+    BlockExploration(const FtsQuery& query, const TextBlock<Chunks>& block)
+        : m_query(query)
+        , m_block(block)
     {
     }
 
-    std::optional<int> score()
+    std::optional<int> score(std::size_t textLength)
     {
+        for (std::size_t i = 0; i < m_query.distinct.size(); ++i) {
+            m_places[i] = m_block.where(m_query.distinct[i]);
+        }
         if (!findFirstPath()) {
             return std::nullopt;
         }
-        m_best = pointsOf(0, m_first[0], nowhere) + pointsBehind(m_first[0]);
-        explore(0, where(0), 0, nowhere);
-        return static_cast<int>(commonPoints(m_text.size(), m_letters.size())) + m_best;
+        m_best = startPoints(m_first[0]) + m_firstPoints;
+        explore<true>(0, where(0), 0, Set::none());
+        return static_cast<int>(commonPoints(textLength, m_query.letters.size())) + m_best;
     }
 
 private:
-    using Set = PositionSet<Words>;
+    using Set = typename TextBlock<Chunks>::Set;
 
-    static constexpr int nowhere = -2; // a position that none follows
-    static constexpr int fullPenaltyFrom = latePenaltyLimit / latePenalty;
+    static constexpr std::uint64_t earlyPositions = (1U << (latePenaltyLimit / latePenalty)) - 1;
+    static constexpr std::size_t summedLetters = 4;
 
     bool findFirstPath()
     {
+        const std::size_t count = m_query.letters.size();
         Set path = Set::none();
-        std::size_t next = 0;
-        for (std::size_t letter = 0; letter < m_letters.size(); ++letter) {
-            const std::size_t at = find(letter, next);
-            if (at == m_text.size()) {
-                return false;
-            }
-            m_first[letter] = static_cast<unsigned char>(at);
-            path.add(1, at);
-            next = at + 1;
+        Set from = Set::all();
+        for (std::size_t letter = 0; letter < count; ++letter) {
+            const Set places = where(letter) & from;
+            m_first[letter] = places.lowest();
+            path = path | m_first[letter];
+            from = places.allAboveLowest(); // nothing, and so nothing from there on, where there is no place
         }
-        m_firstAdjacent = path & path.next();
-        m_firstWordStarts = path & m_block.wordStarts();
+        if (m_first[count - 1].empty()) {
+            return false;
+        }
+
+        const std::size_t summed = std::min(count, summedLetters);
+        Set previous = Set::none();
+        for (std::size_t letter = 0; letter < summed; ++letter) {
+            m_firstPoints += wordStartPoints(m_first[letter]) + adjacentPoints(m_first[letter], previous);
+            m_pointsUpTo[letter] = m_firstPoints;
+            previous = m_first[letter];
+        }
+        if (count > summed) {
+            const Set behind = previous.allAboveLowest();
+            m_laterAdjacent = path & path.next() & behind;
+            m_laterWordStarts = path & m_block.wordStarts() & behind;
+            m_firstPoints += laterPoints(Set::all());
+        }
         return true;
     }
 
-    /// What the first path brings behind \p position, one of its own.
-    int pointsBehind(int position) const
+    /// What the letters of the first path behind the first few bring in \p range.
+    int laterPoints(const Set& range) const
     {
-        return adjacentBonus * m_firstAdjacent.above(position).count()
-            + wordStartBonus * m_firstWordStarts.above(position).count();
+        static_assert(wordStartBonus == 2 * adjacentBonus);
+        return adjacentBonus * Set::weightedCount(m_laterAdjacent & range, m_laterWordStarts & range);
     }
 
-    int pointsOf(std::size_t letter, int position, int previous) const
+    /// What the first path brings behind \p letter.
+    int firstPointsBehind(std::size_t letter) const
     {
-        return (letter == 0 ? latePoints(position) : 0) + (position == 0 ? firstPositionBonus : 0)
-            + adjacentPoints(position, previous) + wordStartPoints(position);
+        return letter < summedLetters ? m_firstPoints - m_pointsUpTo[letter]
+                                      : laterPoints(m_first[letter].allAboveLowest());
+    }
+
+    /// What the first letter brings or costs at \p place for being there, words apart.
+    static int startPoints(const Set& place)
+    {
+        static constexpr std::array<int, 9> points = {latePoints(3), firstPositionBonus, latePoints(1),
+                                                      latePoints(3), latePoints(2),      latePoints(3),
+                                                      latePoints(3), latePoints(3),      latePoints(3)};
+        return points[static_cast<std::size_t>(std::min<std::uint64_t>(place.word(0), 8))];
     }
 
     void offer(int points) { m_best = std::max(m_best, points); }
 
     /// Tries \p letter at \p places, behind \p previous and after letters that have brought \p points.
-    /// REQUIRES: there are branches left, so that letter is below branchLimit.
-    void explore(std::size_t letter, Set places, int points, int previous)
+    /// REQUIRES: there are branches left, so that letter is below branchLimit. IsFirst tells whether it is 0.
+    template <bool IsFirst>
+    void explore(std::size_t letter, Set places, int points, const Set& previous)
     {
         const int count = places.count();
-        if (count > m_branches + 1) {
+        if (count >= m_branches) {
             places = places.first(m_branches + 1);
-        }
-        m_branches -= std::min(count, m_branches);
-        while (m_branches > 0 && !isLast(letter)) {
-            places = places.below(where(letter + 1).highest()); // from the others no way leads on
-            if (places.empty()) {
-                return;
+            m_branches = 0;
+        } else {
+            m_branches -= count;
+            if (!isLast(letter)) {
+                const Set next = where(letter + 1);
+                places = places & next.allBelowHighest(); // from the others no way leads on
+                do {
+                    if (places.empty()) {
+                        return;
+                    }
+                    const Set at = places.highest();
+                    places = places - at;
+                    explore<false>(
+                        letter + 1, next & at.allAboveLowest(),
+                        points + (IsFirst ? startPoints(at) : adjacentPoints(at, previous)) + wordStartPoints(at), at);
+                } while (m_branches > 0);
             }
-            const int at = places.highest();
-            places.remove(at);
-            explore(letter + 1, where(letter + 1).above(at), points + pointsOf(letter, at, previous), at);
         }
-        if (letter == 0) {
-            completeEarly(places.below(fullPenaltyFrom));
-            places = places.above(fullPenaltyFrom - 1);
+        if constexpr (IsFirst) {
+            for (Set early = places & Set(earlyPositions); !early.empty(); early = early - early.lowest()) {
+                complete<true>(0, early.lowest(), startPoints(early.lowest()), previous);
+            }
+            places = places - Set(earlyPositions);
             points -= latePenaltyLimit;
         }
-        complete(letter, places, points, previous);
-    }
-
-    /// Completes the placements whose first letter is at one of \p places.
-    void completeEarly(Set places)
-    {
-        for (; !places.empty(); places.remove(places.lowest())) {
-            const int at = places.lowest();
-            follow(1, pointsOf(0, at, nowhere), at);
-        }
+        complete<IsFirst>(letter, places, points, previous);
     }
 
     /// Completes the placements that have \p letter at one of \p places, each on the first letters that follow.
-    void complete(std::size_t letter, const Set& places, int points, int previous)
+    template <bool IsFirst>
+    void complete(std::size_t letter, Set places, int points, const Set& previous)
     {
-        if (places.empty()) {
-            return;
-        }
         if (isLast(letter)) {
-            offer(points + mostPoints(places, previous, nowhere));
+            if (!places.empty()) {
+                offer(points + mostPoints<IsFirst>(places, previous, Set::none()));
+            }
             return;
         }
-        // Before the place where the first path has the next letter, that place comes next, and the rest of the path.
-        const int join = m_first[letter + 1];
-        const Set joining = places.below(join);
-        if (!joining.empty()) {
-            offer(points + mostPoints(joining, previous, join) + wordStartPoints(join) + pointsBehind(join));
-        }
-        for (Set others = places.above(join - 1); !others.empty(); others.remove(others.lowest())) {
-            const int at = others.lowest();
-            follow(letter + 1, points + wordStartPoints(at) + adjacentPoints(at, previous), at);
+        // Those with nothing of the next letter between them go on in the same way.
+        const Set& nextPlaces = where(letter + 1);
+        while (!places.empty()) {
+            const Set next = (nextPlaces & places.allAboveLowest()).lowest();
+            if (next.empty()) {
+                return;
+            }
+            const Set group = places & next.allBelowLowest();
+            places = places - group;
+            follow(letter + 1, points + mostPoints<IsFirst>(group, previous, next) + wordStartPoints(next), next);
         }
     }
 
     /// The most that a letter at one of \p places brings, with what it brings the next letter at \p next.
-    int mostPoints(const Set& places, int previous, int next) const
+    template <bool IsFirst>
+    int mostPoints(const Set& places, const Set& previous, const Set& next) const
     {
-        int most = (places & m_block.wordStarts()).empty() ? 0 : wordStartBonus;
-        for (const int at : {previous + 1, next - 1}) {
-            if (at >= 0 && places.contains(at)) {
-                most = std::max(most, wordStartPoints(at) + adjacentPoints(at, previous) + adjacentPoints(next, at));
-            }
+        const Set starts = places & m_block.wordStarts();
+        const Set beforeNext = places & next.previous();
+        const int start = wordStartBonus * count(starts);
+        const int before = adjacentBonus * count(beforeNext) + wordStartBonus * count(beforeNext & starts);
+        if constexpr (IsFirst) {
+            return std::max(start, before);
+        } else {
+            const Set behindPrevious = places & previous.next();
+            const int both = adjacentBonus * count(behindPrevious & beforeNext);
+            const int behind = adjacentBonus * count(behindPrevious) + wordStartBonus * count(behindPrevious & starts);
+            return std::max(start, std::max(before, behind) + both);
         }
-        return most;
     }
+    static int count(const Set& set) { return set.empty() ? 0 : 1; }
 
-    /// Completes one placement: from \p letter on everything comes as early as it can.
-    void follow(std::size_t letter, int points, int previous)
+    /// Completes one placement, which has \p letter at \p place: from there on everything comes as early as it can.
+    void follow(std::size_t letter, int points, Set place)
     {
-        for (; letter < m_letters.size(); ++letter) {
-            const int join = m_first[letter];
-            if (previous < join) {
-                offer(points + wordStartPoints(join) + adjacentPoints(join, previous) + pointsBehind(join));
+        while (!(place == m_first[letter])) {
+            if (isLast(letter)) {
+                offer(points);
                 return;
             }
-            const std::size_t at = find(letter, static_cast<std::size_t>(previous) + 1);
-            if (at == m_text.size()) {
+            ++letter;
+            const Set next = (where(letter) & place.allAboveLowest()).lowest();
+            if (next.empty()) {
                 return;
             }
-            points += wordStartPoints(static_cast<int>(at)) + adjacentPoints(static_cast<int>(at), previous);
-            previous = static_cast<int>(at);
+            points += wordStartPoints(next) + adjacentPoints(next, place);
+            place = next;
         }
-        offer(points);
+        offer(points + firstPointsBehind(letter));
     }
 
-    std::size_t find(std::size_t letter, std::size_t from)
+    const Set& where(std::size_t letter) const { return m_places[m_query.indices[letter]]; }
+    bool isLast(std::size_t letter) const { return letter + 1 == m_query.letters.size(); }
+    int wordStartPoints(const Set& place) const { return wordStartBonus * count(place & m_block.wordStarts()); }
+    static int adjacentPoints(const Set& place, const Set& previous)
     {
-        if (letter <= branchLimit) {
-            const Set places = from == 0 ? where(letter) : where(letter).above(static_cast<int>(from) - 1);
-            return places.empty() ? m_text.size() : static_cast<std::size_t>(places.lowest());
-        }
-        while (from < m_text.size() && toLower(m_text[from]) != letterAt(letter)) {
-            ++from;
-        }
-        return from;
+        return adjacentBonus * count(place & previous.next());
     }
 
-    /// REQUIRES: letter is at most branchLimit.
-    const Set& where(std::size_t letter)
-    {
-        for (; m_known <= letter; ++m_known) {
-            m_where[m_known] = m_block.where(letterAt(m_known));
-        }
-        return m_where[letter];
-    }
-
-    bool isLast(std::size_t letter) const { return letter + 1 == m_letters.size(); }
-    unsigned char letterAt(std::size_t letter) const { return static_cast<unsigned char>(m_letters[letter]); }
-    int wordStartPoints(int position) const { return m_block.wordStarts().contains(position) ? wordStartBonus : 0; }
-    static int adjacentPoints(int position, int previous) { return position == previous + 1 ? adjacentBonus : 0; }
-
-    std::string_view m_letters;
-    std::string_view m_text;
-    TextBlock<Words> m_block;
+    const FtsQuery& m_query;
+    const TextBlock<Chunks>& m_block;
     int m_best = 0;
     int m_branches = branchLimit;
-    std::array<unsigned char, longestQuery> m_first; // the positions of the first path
-    Set m_firstAdjacent; // those that follow the one before
-    Set m_firstWordStarts; // those that start a word
-    std::array<Set, branchLimit + 1> m_where; // the places of the letters up to m_known
-    std::size_t m_known = 0;
+    std::array<Set, TextBlock<Chunks>::capacity> m_first; // the first path
+    int m_firstPoints = 0; // what it brings, the place of its first letter apart
+    std::array<int, summedLetters> m_pointsUpTo; // what its first letters bring
+    Set m_laterAdjacent; // of its other letters, those that follow the one before
+    Set m_laterWordStarts; // and those that start a word
+    std::array<Set, 256> m_places; // of the distinct letters
 };
 
 } // namespace
 
 FtsScorer::FtsScorer(std::string_view query)
-    : m_letters(toLower(query))
+    : m_query{toLower(query), {}, {}}
 {
+    for (const char letter : m_query.letters) {
+        const auto byte = static_cast<unsigned char>(letter);
+        const auto known = std::find(m_query.distinct.begin(), m_query.distinct.end(), byte);
+        m_query.indices.push_back(static_cast<unsigned char>(known - m_query.distinct.begin()));
+        if (known == m_query.distinct.end()) {
+            m_query.distinct.push_back(byte);
+        }
+    }
 }
 
 std::optional<int> FtsScorer::score(std::string_view text) const
 {
-    text = text.substr(0, text.find('\0'));
-    if (text.size() < m_letters.size()) {
+    if (text.size() < chunkSize || text.size() > TextBlock<8>::capacity) {
+        text = text.substr(0, text.find('\0'));
+    }
+    if (text.size() < m_query.letters.size()) {
         return std::nullopt;
     }
-    if (text.size() <= PositionSet<1>::capacity) {
-        return BlockExploration<1>(m_letters, text).score();
+    if (text.size() <= TextBlock<4>::capacity) {
+        return scoreBlock<4>(text);
     }
-    if (text.size() <= PositionSet<2>::capacity) {
-        return BlockExploration<2>(m_letters, text).score();
+    if (text.size() <= TextBlock<5>::capacity) {
+        return scoreBlock<5>(text);
     }
-    return LongTextExploration(m_letters, text).score();
+    if (text.size() <= TextBlock<8>::capacity) {
+        return scoreBlock<8>(text);
+    }
+    return LongTextExploration(m_query.letters, text).score();
+}
+
+template <int Chunks>
+std::optional<int> FtsScorer::scoreBlock(std::string_view text) const
+{
+    const TextBlock<Chunks> block(text);
+    if (text.size() >= chunkSize && !block.where('\0').empty()) {
+        return score(text.substr(0, text.find('\0')));
+    }
+    return BlockExploration<Chunks>(m_query, block).score(text.size());
 }
 
 } // namespace search

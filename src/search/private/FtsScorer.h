@@ -3,8 +3,17 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace search {
+
+/// A query as FtsScorer asks it.
+struct FtsQuery
+{
+    std::string letters; // in lower case
+    std::vector<unsigned char> distinct; // each letter once
+    std::vector<unsigned char> indices; // for every letter, where it stands in distinct
+};
 
 /// Scores many texts against one query by the rule of FtsStrategy.
 ///
@@ -23,7 +32,10 @@ public:
     std::optional<int> score(std::string_view text) const;
 
 private:
-    std::string m_letters; // the query in lower case
+    template <int Chunks>
+    std::optional<int> scoreBlock(std::string_view text) const;
+
+    FtsQuery m_query;
 };
 
 } // namespace search

@@ -3,49 +3,82 @@
 #include "Chunk.h"
 #include "PositionSet.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <string_view>
 
 namespace search {
 
-/// A text of at most 64 * Words bytes, asked where its letters are.
-template <int Words, class AChunk = Chunk>
+/// A text of at most 16 * Chunks bytes, asked where its letters are.
+template <int Chunks, class AChunk = Chunk>
 class TextBlock
 {
 public:
-    using Set = PositionSet<Words>;
+    static constexpr int words = Chunks > 4 ? 2 : 1;
+    static constexpr std::size_t capacity = Chunks * chunkSize;
+    using Set = PositionSet<words>;
 
-    /// REQUIRES: text has at most Set::capacity bytes.
+    /// REQUIRES: text has at most `capacity` bytes; if that is more than 64, text has more than `capacity` - 16 of
+    /// more than five chunks, or more than 64 of five.
     explicit TextBlock(std::string_view text)
     {
-        // Behind the text and before it stand NULs, which are no letters.
-        std::array<char, 1 + Set::capacity> padded{};
-        std::memcpy(padded.data() + 1, text.data(), text.size());
-        m_wordStarts = Set::none();
-        for (std::size_t i = 0; i < m_chunks.size(); ++i) {
-            const char* before = padded.data() + i * chunkSize;
-            const AChunk chunk(before + 1);
-            m_wordStarts.add(chunk.wordStarts(AChunk(before)), i * chunkSize);
-            m_chunks[i] = chunk.inLowerCase();
+        // The last chunk ends with the text and overlaps the one before, so that all are read from the text itself.
+        std::array<char, chunkSize> padded{};
+        const char* bytes = text.data();
+        if (text.size() < chunkSize) {
+            std::memcpy(padded.data(), bytes, text.size());
+            bytes = padded.data();
+        } else {
+            m_lastOffset = text.size() - chunkSize;
         }
+        m_wordStarts = collect([&](std::size_t i) {
+            const std::size_t start = offset(i);
+            const AChunk chunk(bytes + start);
+            m_chunks[i] = chunk.inLowerCase();
+            return chunk.wordStarts(start == 0 ? chunk.movedOn() : AChunk(bytes + start - 1));
+        });
     }
 
-    /// Where \p letter is, in either case. REQUIRES: letter is in lower case and not NUL.
+    /// Where \p letter is, in either case. A text of less than 16 bytes has NULs behind its end.
+    /// REQUIRES: letter is in lower case.
     Set where(unsigned char letter) const
     {
-        Set set = Set::none();
-        for (std::size_t i = 0; i < m_chunks.size(); ++i) {
-            set.add(m_chunks[i].equalTo(letter), i * chunkSize);
-        }
-        return set;
+        return collect([&](std::size_t i) { return m_chunks[i].equalTo(letter); });
     }
 
     /// Where a word starts: after a word gap, and with an upper-case letter after a lower-case one.
     const Set& wordStarts() const { return m_wordStarts; }
 
 private:
-    std::array<AChunk, std::size_t{4} * Words> m_chunks;
+    static constexpr std::size_t chunksInWord = 4;
+
+    std::size_t offset(std::size_t chunk) const { return std::min(chunk * chunkSize, m_lastOffset); }
+
+    /// The positions that have a bit among the 16 that \p bitsOf gives for each chunk.
+    template <class Bits>
+    Set collect(Bits bitsOf) const
+    {
+        std::array<std::uint64_t, words> bits{};
+        for (std::size_t i = 0; i < m_chunks.size(); ++i) {
+            const std::uint64_t found = bitsOf(i);
+            if (i < chunksInWord) {
+                bits[0] |= found << offset(i);
+            } else if (Chunks == 5) {
+                bits[words - 1] |= found >> (capacity - chunkSize - m_lastOffset);
+            } else {
+                bits[words - 1] |= found << (offset(i) - 64);
+            }
+        }
+        if constexpr (words == 2) {
+            return Set(bits[0], bits[1]);
+        } else {
+            return Set(bits[0]);
+        }
+    }
+
+    std::array<AChunk, Chunks> m_chunks;
+    std::size_t m_lastOffset = 0;
     Set m_wordStarts;
 };
 
