@@ -10,18 +10,12 @@ An example is a change to EXAMPLES/valid.json, with what is found then.
 import json
 import os
 import pathlib
-import pty
 import subprocess
 import sys
-import tempfile
-import unittest
 
-PROGRAM = ""
-SHIPPED = EXAMPLES = DOCS = pathlib.Path()
+import program
 
-
-def cluiconfig(*arguments, **options):
-    return subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, encoding="utf-8", timeout=120, **options)
+EXAMPLES = DOCS = pathlib.Path()
 
 
 def examples():
@@ -36,7 +30,7 @@ def changed(example):
 
 def rules():
     """Name, severities and meaning of each, as the program lists them."""
-    lines = cluiconfig("check", "--list-rules").stdout.splitlines()
+    lines = program.run("check", "--list-rules").stdout.splitlines()
     return [(line[:24].strip(), line[24:42].strip(), line[42:]) for line in lines]
 
 
@@ -61,19 +55,14 @@ def table():
     return "\n".join(lines) + "\n"
 
 
-class InDirectory(unittest.TestCase):
-    def setUp(self):
-        directory = tempfile.TemporaryDirectory()
-        self.addCleanup(directory.cleanup)
-        self.directory = pathlib.Path(directory.name)
-
-    def file(self, text, name="document.json"):
-        path = self.directory / name
-        path.write_bytes(text if isinstance(text, bytes) else text.encode("utf-8"))
+class InDirectory(program.TestCase):
+    def document(self, text, name="document.json"):
+        """Makes a document of a text, and returns its name in the directory in which check() runs the program."""
+        self.file(name, text)
         return name
 
     def check(self, *arguments, **options):
-        return cluiconfig("check", *arguments, cwd=self.directory, **options)
+        return self.run_program("check", *arguments, cwd=self.directory, **options)
 
     def findings(self, name, *arguments):
         return json.loads(self.check("--format", "json", name, *arguments).stdout)[0]["findings"]
@@ -81,14 +70,14 @@ class InDirectory(unittest.TestCase):
 
 class Rules(InDirectory):
     def test_documents_without_mistakes_get_nothing_but_the_verdict(self):
-        for path in (SHIPPED, EXAMPLES / "valid.json"):
-            result = cluiconfig("check", "--strict", str(path))
+        for path in (program.SHIPPED, EXAMPLES / "valid.json"):
+            result = self.run_program("check", "--strict", str(path))
             self.assertEqual((result.returncode, result.stdout, result.stderr), (0, f"{path}: loads\n", ""))
 
     def test_examples_have_exactly_the_findings_that_stand_with_them(self):
         for name, example in examples().items():
             with self.subTest(name):
-                file = self.file(changed(example))
+                file = self.document(changed(example))
                 self.assertNotEqual(changed(example), (EXAMPLES / "valid.json").read_text(encoding="utf-8"))
                 result = self.check("--format", "json", file)
                 self.assertEqual(json.loads(result.stdout),
@@ -113,11 +102,12 @@ class Rules(InDirectory):
     def test_documentation_holds_the_table(self):
         self.assertIn(table(), DOCS.read_text(encoding="utf-8"))
 
+    @program.needs_posix("a shell that finds it in its path")
     def test_the_session_in_the_documentation_happens_as_it_is_told(self):
         told = DOCS.read_text(encoding="utf-8").split("## A first session")[1].split("```")[1].strip() + "\n"
-        self.file((EXAMPLES / "session" / "UIConfig.json").read_text(encoding="utf-8"), "UIConfig.json")
+        self.document((EXAMPLES / "session" / "UIConfig.json").read_text(encoding="utf-8"), "UIConfig.json")
         (self.directory / "bin").mkdir()
-        (self.directory / "bin" / "cluiconfig").symlink_to(PROGRAM)
+        (self.directory / "bin" / "cluiconfig").symlink_to(program.PROGRAM)
         environment = {**os.environ, "PATH": f"{self.directory / 'bin'}:{os.environ['PATH']}"}
         happened = ""
         for command in [line[2:] for line in told.splitlines() if line.startswith("$ ")]:
@@ -128,28 +118,28 @@ class Rules(InDirectory):
         self.assertEqual(happened, told)
 
     def test_a_rule_can_be_turned_off_or_made_an_error_or_a_warning(self):
-        unused = self.file(changed(examples()["unused-color"]))
+        unused = self.document(changed(examples()["unused-color"]))
         self.assertEqual(self.check("--rule", "unused-color=off", unused).stdout, f"{unused}: loads\n")
         result = self.check("--rule", "unused-color=error", unused)
         self.assertEqual(result.returncode, 1)
         self.assertIn(": error: No default uses", result.stdout)
         self.assertEqual(self.check("--strict", unused).returncode, 1)
 
-        refused = self.file(changed(examples()["wrong-length"]))
+        refused = self.document(changed(examples()["wrong-length"]))
         result = self.check("--rule=wrong-length=warning", refused)
         self.assertIn(": warning: ", result.stdout)
         self.assertEqual(result.returncode, 1, "what the application refuses fails whatever the rules say")
 
     def test_unknown_rules_and_severities_are_wrong_arguments(self):
         for argument in ("unused-colour=off", "unused-color", "unused-color=info", "=off"):
-            result = self.check("--rule", argument, self.file("{}"))
+            result = self.check("--rule", argument, self.document("{}"))
             self.assertEqual((argument, result.returncode, result.stdout), (argument, 2, ""))
         self.assertIn('Did you mean "unused-color"?', self.check("--rule", "unused-colour=off", "x").stderr)
 
 
 class Output(InDirectory):
     def test_text_has_the_verdict_a_line_a_finding_and_their_number(self):
-        name = self.file(changed(examples()["unknown-array"]))
+        name = self.document(changed(examples()["unknown-array"]))
         self.assertEqual(self.check(name).stdout, (
             "document.json: refused: Unexpected Y1 Voltage\n"
             'document.json:20:68: error: The catalogue has no array "Voltage": the application refuses the document.'
@@ -157,8 +147,8 @@ class Output(InDirectory):
             "document.json: 1 error, 0 warnings\n"))
 
     def test_several_documents_are_checked_independently_and_the_worst_decides(self):
-        good = self.file((EXAMPLES / "valid.json").read_text(encoding="utf-8"), "good.json")
-        bad = self.file(changed(examples()["missing-y"]), "bad.json")
+        good = self.document((EXAMPLES / "valid.json").read_text(encoding="utf-8"), "good.json")
+        bad = self.document(changed(examples()["missing-y"]), "bad.json")
         for order in ((good, bad, good), (bad, good, bad)):
             result = self.check(*order)
             self.assertEqual(result.returncode, 1)
@@ -169,29 +159,30 @@ class Output(InDirectory):
         self.assertEqual(self.check(bad, "missing.json").returncode, 2)
 
     def test_control_characters_of_a_document_do_not_reach_the_terminal(self):
-        name = self.file(json.dumps({"\u001b[31mred\u0007": 1}))
+        name = self.document(json.dumps({"\u001b[31mred\u0007": 1}))
         output = self.check(name).stdout
         self.assertNotIn("\u001b", output)
         self.assertIn("\\u001b[31mred\\u0007", output)
 
     def terminal(self, **environment):
-        name = self.file(changed(examples()["wrong-length"]))
-        leader, follower = pty.openpty()
-        subprocess.run([PROGRAM, "check", name], cwd=self.directory, stdout=follower, check=False,
+        name = self.document(changed(examples()["wrong-length"]))
+        leader, follower = os.openpty()
+        subprocess.run([program.PROGRAM, "check", name], cwd=self.directory, stdout=follower, check=False,
                        env={**{k: v for k, v in os.environ.items() if k != "NO_COLOR"}, "TERM": "xterm", **environment})
         os.close(follower)
         with os.fdopen(leader, "rb") as output:
             return output.read1(65536)
 
+    @program.needs_posix("a pseudo terminal")
     def test_colours_on_a_terminal_only_and_not_against_the_users_will(self):
         self.assertIn(b"\033[1;31mrefused: \033[0m", self.terminal())
         self.assertNotIn(b"\033", self.terminal(NO_COLOR="1"))
         self.assertNotIn(b"\033", self.terminal(TERM="dumb"))
         self.assertIn(b"\033", self.terminal(NO_COLOR=""))
-        self.assertNotIn("\033", self.check(self.file("{}")).stdout)
+        self.assertNotIn("\033", self.check(self.document("{}")).stdout)
 
     def test_sarif_points_at_the_same_places(self):
-        name = self.file(changed(examples()["unknown-word"]), "a b.json")
+        name = self.document(changed(examples()["unknown-word"]), "a b.json")
         log = json.loads(self.check("--format", "sarif", name).stdout)
         run = log["runs"][0]
         self.assertEqual((log["version"], run["tool"]["driver"]["name"]), ("2.1.0", "cluiconfig"))
@@ -228,12 +219,16 @@ class Hostile(InDirectory):
     def test_what_cannot_be_read_is_said_and_exits_with_2(self):
         self.assertIn("missing.json", self.unreadable("missing.json"))
         self.assertIn("it is a directory", self.unreadable("."))
+
+    @program.needs_posix("a named pipe")
+    def test_pipes_and_devices_are_refused_instead_of_waited_for(self):
         os.mkfifo(self.directory / "pipe")
         self.assertIn("is no regular file", self.unreadable("pipe"))
         self.assertIn("is no regular file", self.unreadable("/dev/zero"))
 
+    @program.needs_posix("permissions of POSIX")
     def test_a_file_without_permission_is_said_and_exits_with_2(self):
-        name = self.file("{}")
+        name = self.document("{}")
         (self.directory / name).chmod(0)
         self.directory.chmod(0o755)
         options = {"user": 65534} if os.geteuid() == 0 else {}
@@ -247,7 +242,7 @@ class Hostile(InDirectory):
     def test_what_is_no_json_has_the_place_of_the_loaders_message(self):
         for content, place in (("{\n  \"a\": [,]\n}", (2, 9)), (b"{\"a\": \"\xff\"}", (1, 8)), ("", (1, 1)),
                                ("[" * 10_000 + "]" * 10_000, None), ("[1]", (1, 1)), ('{"a":' * 10_000, None)):
-            name = self.file(content)
+            name = self.document(content)
             result = self.check("--format", "json", name)
             self.assertEqual(result.returncode, 1)
             report = json.loads(result.stdout)[0]
@@ -261,40 +256,43 @@ class Hostile(InDirectory):
         document = json.loads((EXAMPLES / "valid.json").read_text(encoding="utf-8"))
         document["Debug"] = []
         text = json.dumps(document).replace('"Debug": []', '"Debug": ' + "[" * 1000 + "]" * 1000)
-        self.assertEqual([finding["rule"] for finding in self.findings(self.file(text))], ["wrong-type"])
+        self.assertEqual([finding["rule"] for finding in self.findings(self.document(text))], ["wrong-type"])
 
     def test_a_hundred_thousand_findings_are_counted_and_two_hundred_listed(self):
         document = json.loads((EXAMPLES / "valid.json").read_text(encoding="utf-8"))
         document["Tools"]["Summary Table"]["Per step"]["Step"] = [f"Step Tme {i} / s" for i in range(100_000)]
-        result = self.check(self.file(json.dumps(document)))
+        result = self.check(self.document(json.dumps(document)))
         lines = result.stdout.splitlines()
         self.assertEqual(len(lines), 1 + 201 + 1)
         self.assertIn("99800 more findings of this rule follow, 100000 in all.", lines[-2])
 
+    @program.needs_posix("a limit of its memory")
     def test_fifty_megabytes_take_bounded_time_and_memory(self):
-        document = json.loads(SHIPPED.read_text(encoding="utf-8"))
+        document = program.shipped()
         entry = document["Axes combinations"][0]
         document["Filters"]["Tasks"]["Skipped"] += ["x" * 80] * 300_000
         document["Axes combinations"] += [dict(entry, DEFAULT_SCALE_X="linear")] * 55_000
         text = json.dumps(document)
         self.assertGreater(len(text), 50_000_000)
-        name = self.file(text)
-        limited = ["sh", "-c", 'ulimit -v 4000000; exec "$@"', "sh", PROGRAM, "check", name]
+        name = self.document(text)
+        limited = ["sh", "-c", 'ulimit -v 4000000; exec "$@"', "sh", program.PROGRAM, "check", name]
         result = subprocess.run(limited, cwd=self.directory, capture_output=True, text=True, timeout=240)
         self.assertEqual((result.returncode, result.stderr), (0, ""))
         self.assertIn("55000 in all.", result.stdout)
 
 
-class Schema(unittest.TestCase):
+class Schema(program.TestCase):
     def test_prints_the_schema_that_is_installed(self):
-        installed = SHIPPED.parent / "UIConfig.schema.json"
-        self.assertEqual(cluiconfig("schema").stdout, installed.read_text(encoding="utf-8"))
+        installed = program.SHIPPED.parent / "UIConfig.schema.json"
+        self.assertEqual(self.output("schema"), installed.read_text(encoding="utf-8"))
 
 
 if __name__ == "__main__":
-    arguments = [argument for argument in sys.argv[1:] if argument != "--table"]
-    PROGRAM, SHIPPED, EXAMPLES, DOCS = (pathlib.Path(argument).resolve() for argument in arguments)
-    if "--table" in sys.argv:
+    print_table = sys.argv[1] == "--table"
+    if print_table:
+        del sys.argv[1]
+    EXAMPLES, DOCS, *names = map(pathlib.Path, program.take_arguments())
+    if print_table:
         print(table(), end="")
     else:
-        unittest.main(argv=sys.argv[:1])
+        program.run_tests(map(str, names))

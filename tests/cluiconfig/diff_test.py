@@ -4,7 +4,6 @@
 import json
 import os
 import random
-import unittest
 
 import program
 
@@ -201,7 +200,7 @@ dQ/dU graph: 1 changed
                 self.assertEqual(len(message.splitlines()), 1)
         self.message(2, "diff", deep)
 
-    @unittest.skipUnless(hasattr(os, "mkfifo"), "needs named pipes")
+    @program.needs_posix("a named pipe")
     def test_pipe_is_refused_instead_of_waited_for(self):
         path = str(self.directory / "pipe")
         os.mkfifo(path)

@@ -1,6 +1,7 @@
 """What the tests of cluiconfig share: the program, the shipped documents, and a directory for each test."""
 
 import json
+import os
 import pathlib
 import subprocess
 import sys
@@ -11,15 +12,34 @@ PROGRAM = ""
 SHIPPED = pathlib.Path()  # the shipped document; its catalogue stands beside it
 
 
+def take_arguments():
+    """Takes PROGRAM and SHIPPED_DOCUMENT from the calling script's arguments, and returns what follows them."""
+    global PROGRAM, SHIPPED
+    PROGRAM, SHIPPED = sys.argv[1], pathlib.Path(sys.argv[2]).resolve()
+    return sys.argv[3:]
+
+
 def main():
     """Runs the tests of the calling script. usage: SCRIPT PROGRAM SHIPPED_DOCUMENT [TEST...]"""
-    global PROGRAM, SHIPPED
-    PROGRAM, SHIPPED = sys.argv[1], pathlib.Path(sys.argv[2])
-    unittest.main(module="__main__", argv=sys.argv[:1] + sys.argv[3:])
+    run_tests(take_arguments())
+
+
+def run_tests(names=()):
+    unittest.main(module="__main__", argv=[sys.argv[0], "-v", *names])
+
+
+def needs_posix(what):
+    """For tests of what only a program for a POSIX system can be given; a Windows program on one is another matter."""
+    windows = os.name != "posix" or os.environ.get("CLUICONFIG_SYSTEM") == "Windows"
+    return unittest.skipIf(windows, f"needs {what}, which no Windows program gets")
 
 
 def shipped():
     return json.loads(SHIPPED.read_text(encoding="utf-8"))
+
+
+def run(*arguments, **options):
+    return subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, encoding="utf-8", timeout=240, **options)
 
 
 class TestCase(unittest.TestCase):
@@ -37,8 +57,7 @@ class TestCase(unittest.TestCase):
         return str(path)
 
     def run_program(self, *arguments, **options):
-        return subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, encoding="utf-8", timeout=120,
-                              **options)
+        return run(*arguments, **options)
 
     def output(self, *arguments):
         """What the program prints when nothing is wrong."""

@@ -17,11 +17,12 @@ import sys
 import tempfile
 import unittest
 
+import program
+
 PACKAGES = ["ajv@8.20.0", "typescript@5.9.3", "@types/sarif@2.1.7"]
 STRUCTURAL = {"wrong-version", "missing-key", "wrong-type", "unknown-key", "unknown-word", "empty-text", "wrong-length",
               "out-of-range", "missing-y"}
-PROGRAM = ""
-SHIPPED = EXAMPLES = NODE_DIRECTORY = pathlib.Path()
+EXAMPLES = NODE_DIRECTORY = pathlib.Path()
 
 
 def skip(reason):
@@ -41,16 +42,11 @@ def get_packages():
             skip("npm cannot install what the test needs: " + install.stderr)
 
 
-class AgainstAjv(unittest.TestCase):
-    def setUp(self):
-        directory = tempfile.TemporaryDirectory()
-        self.addCleanup(directory.cleanup)
-        self.directory = pathlib.Path(directory.name)
-
+class AgainstAjv(program.TestCase):
     def verdicts(self, paths):
         """For each document, true or what ajv has against it."""
         schema = self.directory / "schema.json"
-        schema.write_text(subprocess.run([PROGRAM, "schema"], capture_output=True, text=True, check=True).stdout)
+        schema.write_text(self.output("schema"))
         script = pathlib.Path(__file__).with_name("validate.mjs")
         result = subprocess.run(["node", str(script), str(NODE_DIRECTORY), str(schema), *map(str, paths)],
                                 capture_output=True, text=True, timeout=240)
@@ -59,8 +55,7 @@ class AgainstAjv(unittest.TestCase):
 
     def structural_findings(self, paths):
         """For each document, those of `cluiconfig check` that are about its structure."""
-        result = subprocess.run([PROGRAM, "check", "--format", "json", *map(str, paths)], capture_output=True, text=True,
-                                timeout=240)
+        result = self.run_program("check", "--format", "json", *map(str, paths))
         return [[finding for finding in report["findings"] if finding["rule"] in STRUCTURAL]
                 for report in json.loads(result.stdout)]
 
@@ -77,7 +72,7 @@ class AgainstAjv(unittest.TestCase):
         return invalid
 
     def test_ajv_accepts_the_schema_and_the_shipped_document(self):
-        self.assertEqual(self.verdicts([SHIPPED, EXAMPLES / "valid.json"]), [True, True])
+        self.assertEqual(self.verdicts([program.SHIPPED, EXAMPLES / "valid.json"]), [True, True])
 
     def test_ajv_refuses_the_examples_of_the_structural_rules_and_accepts_the_others(self):
         valid = (EXAMPLES / "valid.json").read_text(encoding="utf-8")
@@ -90,7 +85,7 @@ class AgainstAjv(unittest.TestCase):
 
     def test_ajv_and_check_agree_about_random_documents(self):
         shuffle = random.Random(29)
-        shipped = json.loads(SHIPPED.read_text(encoding="utf-8"))
+        shipped = program.shipped()
         others = [None, 0, 29, -1, 29.5, 1e300, True, False, "", "TRUE", "Mass", [], [1, "two", [{}]], {},
                   {"Name": "Voltage / V"}, {"": True}]
 
@@ -112,30 +107,25 @@ class AgainstAjv(unittest.TestCase):
         self.assertGreater(invalid, 100)
 
 
-class Sarif(unittest.TestCase):
+class Sarif(program.TestCase):
     def compiler_output(self, log):
         """What the compiler has against the log as a value of the published type: nothing if it fits, unknown
         properties included."""
         with tempfile.TemporaryDirectory(dir=NODE_DIRECTORY) as directory:
-            program = pathlib.Path(directory) / "log.ts"
-            program.write_text('import { Log } from "sarif";\nexport const log: Log = ' + log + ";\n", encoding="utf-8")
+            script = pathlib.Path(directory) / "log.ts"
+            script.write_text('import { Log } from "sarif";\nexport const log: Log = ' + log + ";\n", encoding="utf-8")
             result = subprocess.run(["node", str(NODE_DIRECTORY / "node_modules" / "typescript" / "bin" / "tsc"),
-                                     "--noEmit", "--strict", "--moduleResolution", "node", str(program)],
+                                     "--noEmit", "--strict", "--moduleResolution", "node", str(script)],
                                     capture_output=True, text=True, timeout=240)
             return result.stdout
 
     def test_output_has_the_published_shape_of_sarif_2_1_0(self):
-        with tempfile.TemporaryDirectory() as directory:
-            paths = []
-            valid = (EXAMPLES / "valid.json").read_text(encoding="utf-8")
-            for path in sorted(EXAMPLES.glob("*.json")):
-                example = json.loads(path.read_text(encoding="utf-8"))
-                paths.append(pathlib.Path(directory) / path.name)
-                paths[-1].write_text(valid.replace(example.get("replace", "$"), example.get("by", ""), 1),
-                                     encoding="utf-8")
-            paths.append(pathlib.Path(directory) / "missing.json")
-            log = subprocess.run([PROGRAM, "check", "--format", "sarif", *map(str, paths)], capture_output=True,
-                                 text=True, timeout=60).stdout
+        paths = [str(self.directory / "missing.json")]
+        valid = (EXAMPLES / "valid.json").read_text(encoding="utf-8")
+        for path in sorted(EXAMPLES.glob("*.json")):
+            example = json.loads(path.read_text(encoding="utf-8"))
+            paths.append(self.file(path.name, valid.replace(example.get("replace", "$"), example.get("by", ""), 1)))
+        log = self.run_program("check", "--format", "sarif", *paths).stdout
         self.assertGreater(len(json.loads(log)["runs"][0]["results"]), 30)
         self.assertEqual(self.compiler_output(log), "")
         for wrong in (log.replace('"startLine"', '"firstLine"'), log.replace('"2.1.0"', '"2.0.0"'),
@@ -144,6 +134,6 @@ class Sarif(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    PROGRAM, SHIPPED, EXAMPLES, NODE_DIRECTORY = sys.argv[1], *(pathlib.Path(each).resolve() for each in sys.argv[2:])
+    EXAMPLES, NODE_DIRECTORY = (pathlib.Path(argument).resolve() for argument in program.take_arguments())
     get_packages()
-    unittest.main(argv=sys.argv[:1])
+    program.run_tests()

@@ -1,21 +1,18 @@
 #!/usr/bin/env python3
-"""Runs `cluiconfig search` as people do: on files, in pipes, on a terminal. usage: search_test.py PROGRAM"""
+"""Runs `cluiconfig search` as people do: on files, in pipes, on a terminal. usage: search_test.py PROGRAM SHIPPED_DOCUMENT"""
 
 import os
-import pathlib
 import subprocess
-import sys
-import tempfile
 import unittest
 
-PROGRAM = ""
+import program
 
 
 def search(*arguments, stdin=b""):
-    return subprocess.run([PROGRAM, "search", *arguments], input=stdin, capture_output=True, timeout=60)
+    return subprocess.run([program.PROGRAM, "search", *arguments], input=stdin, capture_output=True, timeout=60)
 
 
-class Search(unittest.TestCase):
+class Search(program.TestCase):
     def expect_output(self, output, *arguments, stdin=b""):
         result = search(*arguments, stdin=stdin)
         self.assertEqual((result.returncode, result.stdout, result.stderr), (0, output, b""))
@@ -51,40 +48,29 @@ class Search(unittest.TestCase):
         self.expect_output(b"", "")
 
     def test_file_is_read_instead_of_standard_input(self):
-        with tempfile.TemporaryDirectory() as directory:
-            path = pathlib.Path(directory) / "names \N{GREEK SMALL LETTER MU}.txt"
-            path.write_bytes(b"abc\nxyz\n")
-            self.expect_output(b"abc\n", "ab", str(path), stdin=b"abab\n")
+        path = self.file("names \N{GREEK SMALL LETTER MU}.txt", b"abc\nxyz\n")
+        self.expect_output(b"abc\n", "ab", path, stdin=b"abab\n")
 
     def test_file_that_cannot_be_read_is_named_with_exit_code_2(self):
-        with tempfile.TemporaryDirectory() as directory:
-            for path in (os.path.join(directory, "missing.txt"), directory):
-                result = search("a", path)
-                self.assertEqual(result.returncode, 2)
-                self.assertEqual(result.stdout, b"")
-                self.assertIn(os.fsencode(path), result.stderr)
+        for path in (self.directory / "missing.txt", self.directory):
+            self.assertIn(str(path), self.message(2, "search", "a", str(path)))
 
     def test_unknown_strategy_is_refused_with_exit_code_2(self):
-        result = search("a", "--strategy", "guess")
-        self.assertEqual(result.returncode, 2)
-        self.assertIn(b"guess", result.stderr)
+        self.assertIn("guess", self.message(2, "search", "a", "--strategy", "guess"))
 
     @unittest.skipUnless(os.name == "posix", "needs a POSIX pipe")
     def test_reader_that_goes_away_is_no_error(self):
-        with tempfile.NamedTemporaryFile() as names:
-            names.write(b"cyclic voltammetry\n" * 200_000)
-            names.flush()
-            program = subprocess.Popen([PROGRAM, "search", "cv", names.name], stdout=subprocess.PIPE,
-                                       stderr=subprocess.PIPE)
-            self.assertEqual(program.stdout.readline(), b"cyclic voltammetry\n")
-            program.stdout.close()
-            self.assertEqual((program.wait(60), program.stderr.read()), (0, b""))
-            program.stderr.close()
+        path = self.file("names.txt", b"cyclic voltammetry\n" * 200_000)
+        process = subprocess.Popen([program.PROGRAM, "search", "cv", path], stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        self.assertEqual(process.stdout.readline(), b"cyclic voltammetry\n")
+        process.stdout.close()
+        self.assertEqual((process.wait(60), process.stderr.read()), (0, b""))
+        process.stderr.close()
 
     @unittest.skipUnless(os.path.exists("/dev/full"), "needs /dev/full")
     def test_output_that_cannot_be_written_is_an_error(self):
         with open("/dev/full", "wb") as full:
-            result = subprocess.run([PROGRAM, "search", "a"], input=b"a\n", stdout=full, stderr=subprocess.PIPE)
+            result = subprocess.run([program.PROGRAM, "search", "a"], input=b"a\n", stdout=full, stderr=subprocess.PIPE)
         self.assertEqual(result.returncode, 2)
         self.assertIn(b"standard output", result.stderr)
 
@@ -95,9 +81,9 @@ class Search(unittest.TestCase):
         except OSError as error:
             self.skipTest(f"no pseudo terminal to be had here: {error}")
         try:
-            result = subprocess.run([PROGRAM, "search", "open circuit volt", "--max", "1"], stdin=terminal, capture_output=True,
+            result = subprocess.run([program.PROGRAM, "search", "open circuit volt", "--max", "1"], stdin=terminal, capture_output=True,
                                     timeout=60)
-            everything = subprocess.run([PROGRAM, "search", ""], stdin=terminal, capture_output=True, timeout=60)
+            everything = subprocess.run([program.PROGRAM, "search", ""], stdin=terminal, capture_output=True, timeout=60)
         finally:
             os.close(controller)
             os.close(terminal)
@@ -108,5 +94,4 @@ class Search(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    PROGRAM = sys.argv.pop(1)
-    unittest.main()
+    program.main()

@@ -3,10 +3,10 @@
 #include "JsonLayout.h"
 #include "Output.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QSaveFile>
 
-#include <cerrno>
 #include <memory>
 #include <string>
 
@@ -84,14 +84,10 @@ void writeInPlace(const JsonLayout& layout, const QString& path)
 
 void writeToStandardOutput(const JsonLayout& layout)
 {
-    useBytes();
-    QFile output;
-    if (!output.open(stdout, QIODevice::WriteOnly) || !layout.write(output) || !output.flush()) {
-        if (errno == EPIPE) {
-            return; // the reader has seen enough
-        }
-        fail("standard output: " + output.errorString().toStdString());
-    }
+    QBuffer output;
+    output.open(QIODevice::WriteOnly);
+    layout.write(output);
+    print(output.data());
 }
 
 void format(const FormatOptions& options)
