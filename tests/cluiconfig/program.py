@@ -8,6 +8,7 @@ import sys
 import tempfile
 import unittest
 
+IS_WINDOWS = os.name != "posix" or os.environ.get("CLUICONFIG_SYSTEM") == "Windows"
 PROGRAM = ""
 SHIPPED = pathlib.Path()  # the shipped document; its catalogue stands beside it
 
@@ -30,8 +31,7 @@ def run_tests(names=()):
 
 def needs_posix(what):
     """For tests of what only a program for a POSIX system can be given; a Windows program on one is another matter."""
-    windows = os.name != "posix" or os.environ.get("CLUICONFIG_SYSTEM") == "Windows"
-    return unittest.skipIf(windows, f"needs {what}, which no Windows program gets")
+    return unittest.skipIf(IS_WINDOWS, f"needs {what}, which no Windows program gets")
 
 
 def shipped():

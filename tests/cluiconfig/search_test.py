@@ -55,6 +55,15 @@ class Search(program.TestCase):
         for path in (self.directory / "missing.txt", self.directory):
             self.assertIn(str(path), self.message(2, "search", "a", str(path)))
 
+    @unittest.skipUnless(os.name == "posix", "needs a directory that can be opened")
+    def test_standard_input_that_cannot_be_read_is_named_with_exit_code_2(self):
+        directory = os.open(self.directory, os.O_RDONLY)
+        try:
+            reason = "Invalid argument" if program.IS_WINDOWS else "Is a directory"
+            self.assertEqual(self.message(2, "search", "a", stdin=directory), f"standard input: {reason}\n")
+        finally:
+            os.close(directory)
+
     def test_unknown_strategy_is_refused_with_exit_code_2(self):
         self.assertIn("guess", self.message(2, "search", "a", "--strategy", "guess"))
 

@@ -8,7 +8,9 @@
 #include <QFile>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -31,23 +33,43 @@ struct SearchOptions
     bool scores = false;
 };
 
+QByteArray readStandardInput()
+{
+    constexpr std::size_t pieceSize = std::size_t{1} << 20;
+    QByteArray bytes;
+    std::size_t size = 0;
+    for (std::size_t found = pieceSize; found == pieceSize; size += found) {
+        bytes.resize(static_cast<qsizetype>(size + pieceSize));
+        found = std::fread(bytes.data() + size, 1, pieceSize, stdin);
+    }
+    if (std::ferror(stdin) != 0) {
+        fail(std::string("standard input: ") + std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): one thread
+    }
+    bytes.resize(static_cast<qsizetype>(size));
+    return bytes;
+}
+
+QByteArray readFile(const std::string& path)
+{
+    QFile file(QString::fromStdString(path));
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        bytes = file.readAll();
+    }
+    if (file.error() != QFileDevice::NoError) {
+        fail(path + ": " + file.errorString().toStdString());
+    }
+    return bytes;
+}
+
 /// All bytes of the file that \p options name; without one, those of standard input or, at a terminal, of the shipped
 /// list.
 QByteArray readInput(const SearchOptions& options)
 {
-    const bool isNamed = !options.file.empty();
-    const bool isShipped = !isNamed && isTerminal(stdin);
-    const std::string name = isNamed ? options.file : isShipped ? TechniqueList : "standard input";
-    QFile file(QString::fromStdString(name));
-    constexpr auto Mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
-    if (!(isNamed || isShipped ? file.open(Mode) : file.open(stdin, Mode))) {
-        fail(name + ": " + file.errorString().toStdString());
+    if (!options.file.empty()) {
+        return readFile(options.file);
     }
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        fail(name + ": " + file.errorString().toStdString());
-    }
-    return bytes;
+    return isTerminal(stdin) ? readFile(TechniqueList) : readStandardInput();
 }
 
 /// A line ends with a line feed, which a carriage return may precede; the last one may lack it.
