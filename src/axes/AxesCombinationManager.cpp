@@ -62,7 +62,18 @@ AxesCombinationManager::~AxesCombinationManager() = default;
 
 bool AxesCombinationManager::read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context)
 {
-    replaceCombinations(readRecords<AxesCombination>(object.value(CombinationsKey).toArray(), version, context));
+    deleteAll();
+    const QJsonArray array = object.value(CombinationsKey).toArray();
+    m_combinations.reserve(array.size());
+    m_index.reserve(array.size());
+    QString category; // of the record before, which mostly is that of the next one too
+    for (const auto& element : array) {
+        AxesCombination combination;
+        if (!combination.read(element.toObject(), version, context)) {
+            break;
+        }
+        appendSharing(combination, category);
+    }
     return true;
 }
 
@@ -109,12 +120,26 @@ void AxesCombinationManager::append(const AxesCombination& combination)
     indexRecord(m_combinations.size() - 1);
 }
 
-void AxesCombinationManager::append(const cl::datastorage::DataArrayIdentifier& x,
-                                    const cl::datastorage::DataArrayIdentifier& y, QCPAxis::ScaleType scaleX,
-                                    QCPAxis::ScaleType scaleY, bool orthonormal)
+void AxesCombinationManager::appendSharing(const AxesCombination& combination, QString& category)
 {
-    m_combinations.emplaceBack(x, y, scaleX, scaleY, orthonormal);
-    indexRecord(m_combinations.size() - 1);
+    if (!combination.isValid()) {
+        m_combinations.append(combination);
+        return;
+    }
+    const auto shared = [&category](const QString& text) {
+        if (text != category) {
+            category = text;
+        }
+        return category;
+    };
+    const auto& configX = combination.getConfigX();
+    const auto& configY = combination.getConfigY();
+    const qint32 x = m_index.numberX(configX.getName());
+    const qint32 y = m_index.numberY(configY.getName());
+    m_combinations.emplaceBack(cl::datastorage::DataArrayIdentifier(m_index.xName(x), shared(configX.getCategory())),
+                               cl::datastorage::DataArrayIdentifier(m_index.yName(y), shared(configY.getCategory())),
+                               QCPAxis::stLinear, QCPAxis::stLinear, false);
+    m_index.add(x, y, m_combinations.size() - 1);
 }
 
 void AxesCombinationManager::deleteAll()
@@ -141,7 +166,7 @@ void AxesCombinationManager::addCombinationsFromStreams(const QList<cl::dataproc
             continue;
         }
         for (const Candidate& y : candidates) {
-            append(x.identifier, y.identifier, QCPAxis::stLinear, QCPAxis::stLinear, false);
+            append({x.identifier, y.identifier, QCPAxis::stLinear, QCPAxis::stLinear, false});
         }
     }
 }
@@ -150,7 +175,8 @@ void AxesCombinationManager::removeDuplicates()
 {
     QSet<IdentityKey> seen;
     seen.reserve(m_combinations.size());
-    QList<AxesCombination> kept;
+    std::vector<const AxesCombination*> kept;
+    kept.reserve(static_cast<size_t>(m_combinations.size()));
     QString buffer;
     for (const AxesCombination& combination : std::as_const(m_combinations)) {
         if (!combination.isValid()) {
@@ -159,10 +185,18 @@ void AxesCombinationManager::removeDuplicates()
         const qsizetype known = seen.size();
         seen.insert(identityKey(combination, buffer));
         if (seen.size() != known) {
-            kept.append(combination);
+            kept.push_back(&combination);
         }
     }
-    replaceCombinations(kept);
+    if (static_cast<qsizetype>(kept.size()) == m_combinations.size()) {
+        return;
+    }
+    QList<AxesCombination> combinations;
+    combinations.reserve(static_cast<qsizetype>(kept.size()));
+    for (const AxesCombination* combination : kept) {
+        combinations.append(*combination);
+    }
+    replaceCombinations(combinations);
 }
 
 void AxesCombinationManager::indexRecord(qsizetype record)
@@ -177,6 +211,7 @@ void AxesCombinationManager::replaceCombinations(const QList<AxesCombination>& c
 {
     m_combinations = combinations;
     m_index.clear();
+    m_index.reserve(m_combinations.size());
     for (qsizetype record = 0; record < m_combinations.size(); ++record) {
         indexRecord(record);
     }

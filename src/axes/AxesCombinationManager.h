@@ -86,8 +86,9 @@ public:
     bool readAxesCombination(const QJsonObject& entry, QString& error);
 
 private:
-    void append(const cl::datastorage::DataArrayIdentifier& x, const cl::datastorage::DataArrayIdentifier& y,
-                QCPAxis::ScaleType scaleX, QCPAxis::ScaleType scaleY, bool orthonormal);
+    /// Appends a record from an archive, whose texts are its own, with those of the records before it where they are
+    /// the same; \p category is the one used last.
+    void appendSharing(const AxesCombination& combination, QString& category);
     void indexRecord(qsizetype record);
     void replaceCombinations(const QList<AxesCombination>& combinations);
 

@@ -20,12 +20,19 @@ public:
     /// The number by which add() takes a Y name.
     qint32 numberY(const QString& y);
 
+    /// The names that have the numbers, in the text that numberX() and numberY() were given first.
+    const QString& xName(qint32 x) const { return m_xNames.at(x); }
+    const QString& yName(qint32 y) const { return m_yNames.at(y); }
+
     /// Adds a record under the names of two numbers. Who adds many records asks for each number once. REQUIRES: records
     /// are added in ascending order.
     void add(qint32 x, qint32 y, qsizetype record);
     void add(const QString& x, const QString& y, qsizetype record) { add(numberX(x), numberY(y), record); }
 
     void clear();
+
+    /// Makes room for \p records altogether.
+    void reserve(qsizetype records) { m_entries.reserve(static_cast<size_t>(records)); }
 
     /// The first record added under the two names, −1 when there is none.
     qsizetype find(const QString& x, const QString& y) const;
