@@ -1,6 +1,8 @@
 // Loading a configuration document against the bare parse of the same bytes: the shipped document, and documents whose
 // sections are 10 and 100 times as long.
 
+#include "Memory.h"
+
 #include <config/UIConfig.h>
 
 #include <benchmark/benchmark.h>
@@ -12,14 +14,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cstdlib>
-#include <limits>
-#include <memory>
-#include <vector>
-
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 namespace {
 
@@ -67,27 +61,9 @@ QByteArray documentBytes(int factor)
     return QJsonDocument(enlarged(QJsonDocument::fromJson(shipped).object(), factor).toObject()).toJson();
 }
 
-/// Takes memory from the system and hands it to the allocator. A load keeps its result, so that a process that loads
-/// again and again grows, and the first touch of a new page costs more than what is then written there; the parse keeps
-/// nothing and would always find its pages in place.
-void growHeap()
-{
-#ifdef __GLIBC__
-    constexpr size_t Blocks = 512;
-    constexpr size_t BlockSize = 1U << 20U;
-    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
-    mallopt(M_MMAP_THRESHOLD, 32 * static_cast<int>(BlockSize));
-    std::vector<std::unique_ptr<char[]>> blocks(Blocks);
-    for (auto& block : blocks) {
-        block = std::make_unique<char[]>(BlockSize);
-        benchmark::DoNotOptimize(block.get());
-    }
-#endif
-}
-
 void load(benchmark::State& state)
 {
-    [[maybe_unused]] static const bool grown = (growHeap(), true);
+    growHeap(); // a load keeps its result and meets new pages otherwise; the parse keeps nothing
     const QTemporaryDir directory;
     const QString path = directory.filePath(QStringLiteral("UIConfig.json"));
     const QByteArray bytes = documentBytes(static_cast<int>(state.range(0)));

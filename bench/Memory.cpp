@@ -1,0 +1,76 @@
+#include "Memory.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstddef>
+#include <limits>
+#include <memory>
+#include <vector>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+namespace {
+
+constexpr std::size_t MiB = std::size_t{1} << 20;
+
+thread_local long long count = 0;
+
+} // namespace
+
+// glibc's own functions, which the ones below replace for the whole process, Qt included.
+extern "C" {
+void* __libc_malloc(std::size_t size);
+void* __libc_calloc(std::size_t number, std::size_t size);
+void* __libc_realloc(void* memory, std::size_t size);
+
+void* malloc(std::size_t size)
+{
+    ++count;
+    return __libc_malloc(size);
+}
+
+void* calloc(std::size_t number, std::size_t size)
+{
+    ++count;
+    return __libc_calloc(number, size);
+}
+
+void* realloc(void* memory, std::size_t size)
+{
+    ++count;
+    return __libc_realloc(memory, size);
+}
+}
+
+long long allocationCount()
+{
+    return count;
+}
+
+void growHeap()
+{
+#ifdef __GLIBC__
+    [[maybe_unused]] static const bool grown = [] {
+        mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+        mallopt(M_MMAP_THRESHOLD, static_cast<int>(32 * MiB)); // the highest there is
+        std::vector<std::unique_ptr<char[]>> blocks(512);
+        for (auto& block : blocks) {
+            block = std::make_unique<char[]>(MiB);
+            benchmark::DoNotOptimize(block.get());
+        }
+        return true;
+    }();
+#endif
+}
+
+void emptyCaches()
+{
+    constexpr std::size_t lineSize = 64;
+    static std::vector<char> other(128 * MiB);
+    for (std::size_t i = 0; i < other.size(); i += lineSize) {
+        ++other[i];
+    }
+    benchmark::DoNotOptimize(other.data());
+}
