@@ -51,6 +51,14 @@ static_assert(std::is_copy_assignable_v<FuzzyFinder> && std::is_move_assignable_
 static_assert(std::is_empty_v<FuzzyFinder>);
 static_assert(std::is_abstract_v<AFuzzyFinderStrategy> && std::has_virtual_destructor_v<AFuzzyFinderStrategy>);
 
+TEST(FuzzyFinder, StrategiesCanBeCopiedAndAssigned)
+{
+    const FtsStrategy original;
+    FtsStrategy copy(original);
+    copy = original;
+    EXPECT_THAT(copy.applyAlgorithm("cv", {"CV", "x", "ocv"}), ElementsAre(0, 2));
+}
+
 TEST(FuzzyFinder, KeepsTheFirstMaxResults)
 {
     EXPECT_THAT(firstOf(1), ElementsAre(0));
