@@ -221,6 +221,24 @@ TEST(RareLetter, IsOneThatFewCandidatesHave)
     EXPECT_TRUE(rare.isMissingIn(""));
 }
 
+TEST(RareLetter, IsFoundWhereverItStands)
+{
+    const search::RareLetter rare("q", std::vector<std::string>(2000, "Linear Sweep"));
+    for (std::size_t size = 0; size <= 70; ++size) {
+        // In a buffer of its very size, so that reading outside of it is found.
+        std::vector<char> text(size, 'o');
+        const auto isMissing = [&] { return rare.isMissingIn({text.data(), text.size()}); };
+        EXPECT_TRUE(isMissing()) << size;
+        for (char& c : text) {
+            for (const char letter : {'q', 'Q'}) {
+                c = letter;
+                EXPECT_FALSE(isMissing()) << size;
+            }
+            c = 'o';
+        }
+    }
+}
+
 TEST(RareLetter, IsNotSoughtAmongCommonOnesNorInShortLists)
 {
     const std::vector<std::string> manyNames(2000, "Linear Sweep");

@@ -1,16 +1,20 @@
 #pragma once
 
 #include "Ascii.h"
+#include "Chunk.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstring>
 #include <string_view>
 
 namespace search {
 
-/// The letter of a query that the fewest candidates have, if there is one that few have: std::memchr finds that it is
-/// missing several times faster than anything else can tell that the query is.
+/// The letter of a query that the fewest candidates have, if there is one that few have: that it is missing is seen 16
+/// bytes at a time, several times faster than anything else can tell that the query is.
+///
+/// Not with std::memchr, which has to be called once for each case of the letter, and on some platforms goes byte by
+/// byte.
 class RareLetter
 {
 public:
@@ -35,27 +39,33 @@ public:
                 m_lower = toLower(c);
             }
         }
-        m_upper = isLower(m_lower) ? static_cast<unsigned char>(m_lower - 'a' + 'A') : m_lower;
     }
 
     /// False if there is no such letter.
-    bool isMissingIn(std::string_view text) const
-    {
-        return m_isKnown && !contains(text, m_lower) && (m_upper == m_lower || !contains(text, m_upper));
-    }
+    bool isMissingIn(std::string_view text) const { return m_isKnown && !isIn(text); }
 
 private:
     static constexpr std::size_t shortList = 1024;
     static constexpr std::size_t sampleSize = 64;
 
-    static bool contains(std::string_view text, unsigned char byte)
+    bool isIn(std::string_view text) const
     {
-        return !text.empty() && std::memchr(text.data(), byte, text.size()) != nullptr;
+        if (text.size() < chunkSize) {
+            return std::any_of(text.begin(), text.end(), [this](char c) { return toLower(c) == m_lower; });
+        }
+        // The last chunk ends with the text and overlaps the one before.
+        const std::size_t last = text.size() - chunkSize;
+        for (std::size_t start = 0; start < last; start += chunkSize) {
+            if (isIn(Chunk(text.data() + start))) {
+                return true;
+            }
+        }
+        return isIn(Chunk(text.data() + last));
     }
+    bool isIn(const Chunk& chunk) const { return chunk.inLowerCase().equalTo(m_lower) != 0; }
 
     bool m_isKnown = false;
     unsigned char m_lower = 0;
-    unsigned char m_upper = 0;
 };
 
 } // namespace search
