@@ -48,9 +48,10 @@ IdentityKey identityKey(const AxesCombination& combination, QString& buffer)
 
 cl::datastorage::DataArrayIdentifier identifierOf(const cl::dataprocess::IDataStream& stream)
 {
-    return cl::batterydata::ClConfigDataArray(stream.getName(), stream.getPhysicalParameter(), stream.getDataType(),
-                                              stream.getUsualUnit(), cl::datastorage::DataConfigType{}, QString(),
-                                              QString(), stream.getCategory(), false, QString());
+    const cl::batterydata::ClConfigDataArray array(
+        stream.getName(), stream.getPhysicalParameter(), stream.getDataType(), stream.getUsualUnit(),
+        cl::datastorage::DataConfigType{}, QString(), QString(), stream.getCategory(), false, QString());
+    return {array.getName(), array.getCategory()};
 }
 
 } // namespace

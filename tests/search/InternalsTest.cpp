@@ -12,6 +12,7 @@
 #include <cctype>
 #include <limits>
 #include <map>
+#include <ranges>
 #include <set>
 
 namespace {
@@ -40,7 +41,7 @@ struct SetPair
     SetPair(GeneratedTexts& random, std::size_t count)
     {
         for (std::size_t i = 0; i < count; ++i) {
-            add(static_cast<int>(random.below(64 * Words)));
+            add(static_cast<int>(random.below(static_cast<std::size_t>(PositionSet<Words>::capacity))));
         }
     }
     void add(int position)
@@ -258,9 +259,9 @@ void expectSorted(std::vector<int> scores)
     }
     std::vector<std::size_t> indices;
     std::vector<int> sortedScores;
-    for (auto it = expected.rbegin(); it != expected.rend(); ++it) {
-        sortedScores.push_back(it->first);
-        indices.push_back(it->second);
+    for (const auto& [score, index] : std::views::reverse(expected)) {
+        sortedScores.push_back(score);
+        indices.push_back(index);
     }
     EXPECT_EQ(search::indicesBestFirst(matches), indices);
     const auto best = search::bestFirst(matches);

@@ -35,17 +35,17 @@ struct SearchOptions
 
 QByteArray readStandardInput()
 {
-    constexpr std::size_t pieceSize = std::size_t{1} << 20;
+    constexpr qsizetype pieceSize = qsizetype{1} << 20;
     QByteArray bytes;
-    std::size_t size = 0;
-    for (std::size_t found = pieceSize; found == pieceSize; size += found) {
-        bytes.resize(static_cast<qsizetype>(size + pieceSize));
-        found = std::fread(bytes.data() + size, 1, pieceSize, stdin);
+    qsizetype size = 0;
+    for (qsizetype found = pieceSize; found == pieceSize; size += found) {
+        bytes.resize(size + pieceSize);
+        found = static_cast<qsizetype>(std::fread(bytes.data() + size, 1, static_cast<std::size_t>(pieceSize), stdin));
     }
     if (std::ferror(stdin) != 0) {
         fail(std::string("standard input: ") + std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): one thread
     }
-    bytes.resize(static_cast<qsizetype>(size));
+    bytes.resize(size);
     return bytes;
 }
 

@@ -20,6 +20,9 @@ namespace search {
 
 inline constexpr std::size_t chunkSize = 16;
 
+// NOLINTBEGIN(cppcoreguidelines-pro-type-member-init): filling what is overwritten at once would take as long as the
+// work
+
 class PortableChunk
 {
 public:
@@ -120,5 +123,7 @@ using Chunk = Sse2Chunk;
 using Chunk = PortableChunk;
 
 #endif
+
+// NOLINTEND(cppcoreguidelines-pro-type-member-init)
 
 } // namespace search

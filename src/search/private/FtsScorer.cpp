@@ -305,7 +305,7 @@ private:
     int m_branches = branchLimit;
     std::array<Set, TextBlock<Chunks>::capacity> m_first; // the first path
     int m_firstPoints = 0; // what it brings, the place of its first letter apart
-    std::array<int, summedLetters> m_pointsUpTo; // what its first letters bring
+    std::array<int, summedLetters> m_pointsUpTo{}; // what its first letters bring
     Set m_laterAdjacent; // of its other letters, those that follow the one before
     Set m_laterWordStarts; // and those that start a word
     std::array<Set, 256> m_places; // of the distinct letters

@@ -8,6 +8,9 @@
 
 namespace search {
 
+// NOLINTBEGIN(cppcoreguidelines-pro-type-member-init): filling what is overwritten at once would take as long as the
+// work
+
 /// A set of positions in a text of at most 64 * Words bytes, one bit for each. A single position is a set of one: what
 /// follows from it, like "everything above", is then a few operations on all positions at once and no branch.
 template <int Words>
@@ -17,7 +20,7 @@ public:
     static constexpr int capacity = 64 * Words;
 
     /// Holds anything: assign before use.
-    PositionSet() = default; // NOLINT(cppcoreguidelines-pro-type-member-init): many are made and few are used
+    PositionSet() = default;
 
     /// The positions below 64, of which \p bits has a bit each.
     explicit PositionSet(std::uint64_t bits)
@@ -199,7 +202,7 @@ private:
     /// All steps are taken, because how many are needed is different each time.
     static std::uint64_t lowestBits(std::uint64_t word, int limit)
     {
-        std::array<std::uint64_t, 10> rest; // NOLINT(cppcoreguidelines-pro-type-member-init)
+        std::array<std::uint64_t, 10> rest;
         rest[0] = word;
         for (std::size_t i = 1; i < rest.size(); ++i) {
             rest[i] = rest[i - 1] & (rest[i - 1] - 1);
@@ -222,5 +225,7 @@ private:
 
     std::array<std::uint64_t, Words> m_words;
 };
+
+// NOLINTEND(cppcoreguidelines-pro-type-member-init)
 
 } // namespace search
