@@ -2,5 +2,5 @@
 
 AAnalysisItem::AAnalysisItem() = default;
 AAnalysisItem::AAnalysisItem(const AAnalysisItem& other) = default;
-AAnalysisItem& AAnalysisItem::operator=(const AAnalysisItem& other) = default;
+AAnalysisItem& AAnalysisItem::operator=(const AAnalysisItem& /*other*/) = default;
 AAnalysisItem::~AAnalysisItem() = default;

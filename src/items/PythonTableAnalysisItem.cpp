@@ -2,6 +2,8 @@
 
 #include <axes/private/JsonFields.h>
 
+#include <QJsonArray>
+
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -2,5 +2,5 @@
 
 AFuzzyFinderStrategy::AFuzzyFinderStrategy() = default;
 AFuzzyFinderStrategy::AFuzzyFinderStrategy(const AFuzzyFinderStrategy& other) = default;
-AFuzzyFinderStrategy& AFuzzyFinderStrategy::operator=(const AFuzzyFinderStrategy& other) = default;
+AFuzzyFinderStrategy& AFuzzyFinderStrategy::operator=(const AFuzzyFinderStrategy& /*other*/) = default;
 AFuzzyFinderStrategy::~AFuzzyFinderStrategy() = default;

@@ -14,7 +14,7 @@ namespace cluiconfig {
 
 namespace {
 
-constexpr auto CannotOpen = "Cannot open \"%1\": %2"_L1;
+constexpr auto CannotOpen = R"(Cannot open "%1": %2)"_L1;
 
 /// Reading a pipe may never end.
 void refusePipe(const QString& path)
