@@ -67,13 +67,12 @@ bool AxesCombinationManager::read(const QJsonObject& object, int version, cl::ar
     const QJsonArray array = object.value(CombinationsKey).toArray();
     m_combinations.reserve(array.size());
     m_index.reserve(array.size());
-    QString category; // of the record before, which mostly is that of the next one too
     for (const auto& element : array) {
         AxesCombination combination;
         if (!combination.read(element.toObject(), version, context)) {
             break;
         }
-        appendSharing(combination, category);
+        appendSharing(combination);
     }
     return true;
 }
@@ -121,20 +120,17 @@ void AxesCombinationManager::append(const AxesCombination& combination)
     indexRecord(m_combinations.size() - 1);
 }
 
-void AxesCombinationManager::appendSharing(const AxesCombination& combination, QString& category)
+void AxesCombinationManager::appendSharing(const AxesCombination& combination)
 {
     if (!combination.isValid()) {
         m_combinations.append(combination);
         return;
     }
-    const auto shared = [&category](const QString& text) {
-        if (text != category) {
-            category = text;
-        }
-        return category;
-    };
     const auto& configX = combination.getConfigX();
     const auto& configY = combination.getConfigY();
+    const QString category =
+        (m_combinations.isEmpty() ? combination : m_combinations.constLast()).getConfigX().getCategory();
+    const auto shared = [&category](const QString& text) { return text == category ? category : text; };
     const qint32 x = m_index.numberX(configX.getName());
     const qint32 y = m_index.numberY(configY.getName());
     m_combinations.emplaceBack(cl::datastorage::DataArrayIdentifier(m_index.xName(x), shared(configX.getCategory())),

@@ -87,8 +87,8 @@ public:
 
 private:
     /// Appends a record from an archive, whose texts are its own, with those of the records before it where they are
-    /// the same; \p category is the one used last.
-    void appendSharing(const AxesCombination& combination, QString& category);
+    /// the same: names of any of them, the category of the last one.
+    void appendSharing(const AxesCombination& combination);
     void indexRecord(qsizetype record);
     void replaceCombinations(const QList<AxesCombination>& combinations);
 

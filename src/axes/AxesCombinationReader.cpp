@@ -108,8 +108,6 @@ bool AxesCombinationManager::readAxesCombinations(const QJsonObject& root, QStri
         return false;
     }
     const QJsonArray entries = section.toArray();
-    m_combinations.reserve(m_combinations.size() + 8 * entries.size());
-    m_index.reserve(m_combinations.size() + 8 * entries.size());
     for (const auto& entry : entries) {
         if (!entry.isObject()) {
             error = EntryNotAnObject;

@@ -221,7 +221,7 @@ class Format(program.TestCase):
         self.assertIn("it is a pipe or a device", self.message(2, "format", path))
 
     @program.needs_posix("permissions of POSIX")
-    @unittest.skipIf(os.geteuid() == 0, "needs permissions, which do not bind this user")
+    @unittest.skipIf(os.name == "posix" and os.geteuid() == 0, "needs permissions, which do not bind this user")
     def test_unreadable_file_and_read_only_file_give_exit_code_2(self):
         path = pathlib.Path(self.file("document.json", '{"a":1}'))
         path.chmod(0o400)

@@ -16,7 +16,7 @@ SHIPPED = pathlib.Path()  # the shipped document; its catalogue stands beside it
 def take_arguments():
     """Takes PROGRAM and SHIPPED_DOCUMENT from the calling script's arguments, and returns what follows them."""
     global PROGRAM, SHIPPED
-    PROGRAM, SHIPPED = sys.argv[1], pathlib.Path(sys.argv[2]).resolve()
+    PROGRAM, SHIPPED = str(pathlib.Path(sys.argv[1]).resolve()), pathlib.Path(sys.argv[2]).resolve()
     return sys.argv[3:]
 
 
@@ -38,8 +38,9 @@ def shipped():
     return json.loads(SHIPPED.read_text(encoding="utf-8"))
 
 
-def run(*arguments, **options):
-    return subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, encoding="utf-8", timeout=240, **options)
+def run(*arguments, timeout=120, **options):
+    return subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, encoding="utf-8", timeout=timeout,
+                          **options)
 
 
 class TestCase(unittest.TestCase):

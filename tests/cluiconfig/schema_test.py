@@ -55,7 +55,7 @@ class AgainstAjv(program.TestCase):
 
     def structural_findings(self, paths):
         """For each document, those of `cluiconfig check` that are about its structure."""
-        result = self.run_program("check", "--format", "json", *map(str, paths))
+        result = self.run_program("check", "--format", "json", *map(str, paths), timeout=240)
         return [[finding for finding in report["findings"] if finding["rule"] in STRUCTURAL]
                 for report in json.loads(result.stdout)]
 

@@ -10,7 +10,6 @@ import program
 
 
 class Show(program.TestCase):
-
     def test_no_document_means_the_shipped_one(self):
         self.assertEqual(self.output("show"), self.output("show", str(program.SHIPPED)))
 

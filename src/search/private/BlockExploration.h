@@ -93,6 +93,7 @@ private:
     /// What the first letter brings or costs at \p place for being there, words apart.
     static int startPoints(const Set& place)
     {
+        static_assert(earlyPositions == 0b111);
         static constexpr std::array<int, 9> points = {latePoints(3), firstPositionBonus, latePoints(1),
                                                       latePoints(3), latePoints(2),      latePoints(3),
                                                       latePoints(3), latePoints(3),      latePoints(3)};

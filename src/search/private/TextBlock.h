@@ -19,8 +19,8 @@ public:
     static constexpr std::size_t capacity = Chunks * chunkSize;
     using Set = PositionSet<words>;
 
-    /// REQUIRES: text has at most `capacity` bytes; if that is more than 64, text has more than `capacity` - 16 of
-    /// more than five chunks, or more than 64 of five.
+    /// REQUIRES: text has at most `capacity` bytes; more than 64 if there are more than four chunks, and 80 or more if
+    /// there are more than five.
     explicit TextBlock(std::string_view text)
     {
         // The last chunk ends with the text and overlaps the one before, so that all are read from the text itself.
