@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
-"""Runs clang-tidy over every source of a build tree and fails on the first finding.
+"""Runs clang-tidy over the sources of a build tree and fails if there is a finding.
 
-usage: tidy.py SOURCE_DIR BUILD_DIR
+usage: tidy.py SOURCE_DIR BUILD_DIR [FOLDER...]
+
+With folders of the source tree, over the sources below them; without, over all.
 
 A source whose text, headers, compiler options and checks are those of its last clean run is not looked at again, so
 that a second run takes a second. Needs a Ninja build that has been built: Ninja knows which headers a source includes.
@@ -30,20 +32,20 @@ def dependencies(build_dir):
     return result
 
 
-def without_precompiled_headers(arguments):
-    """clang cannot read the headers that GCC has precompiled; it reads the original ones instead."""
+def for_clang(arguments):
+    """Without what only GCC knows. clang cannot read the headers that GCC has precompiled and reads the original ones."""
     kept, i = [], 0
     while i < len(arguments):
         if arguments[i] == "-include" and "cmake_pch" in arguments[i + 1]:
             i += 2
             continue
-        if arguments[i] not in ("-Winvalid-pch", "-fpch-preprocess"):
+        if arguments[i] not in ("-Winvalid-pch", "-fpch-preprocess", "-Wno-restrict"):
             kept.append(arguments[i])
         i += 1
     return kept
 
 
-def main(source_dir, build_dir):
+def main(source_dir, build_dir, *folders):
     source_dir, build_dir = pathlib.Path(source_dir).resolve(), pathlib.Path(build_dir).resolve()
     state_dir = build_dir / "tidy"
     state_dir.mkdir(exist_ok=True)
@@ -58,7 +60,9 @@ def main(source_dir, build_dir):
         source = pathlib.Path(entry["file"])
         if not source.is_relative_to(source_dir) or source.is_relative_to(build_dir) or source.suffix != ".cpp":
             continue
-        arguments = without_precompiled_headers(shlex.split(entry["command"]))
+        if folders and not any(source.is_relative_to(source_dir / folder) for folder in folders):
+            continue
+        arguments = for_clang(shlex.split(entry["command"]))
         # Headers that come through a precompiled one need not be listed with the object: they are the system's.
         commands.append({"directory": entry["directory"], "file": entry["file"], "arguments": arguments})
 

@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QSet>
 
+#include <optional>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -146,24 +147,26 @@ void AxesCombinationManager::deleteAll()
 
 void AxesCombinationManager::addCombinationsFromStreams(const QList<cl::dataprocess::IDataStream*>& streams, int index)
 {
-    struct Candidate
-    {
-        cl::datastorage::DataArrayIdentifier identifier;
-        bool servesAsX;
+    const auto takesPart = [index](const cl::dataprocess::IDataStream& stream) {
+        return index == NoIndex || stream.hasIndex(index);
     };
-    std::vector<Candidate> candidates;
-    candidates.reserve(static_cast<size_t>(streams.size()));
+    std::optional<std::vector<cl::datastorage::DataArrayIdentifier>> ys; // the same for every X
     for (const auto* stream : streams) {
-        if (index == NoIndex || stream->hasIndex(index)) {
-            candidates.push_back({identifierOf(*stream), index < stream->getCount()});
-        }
-    }
-    for (const Candidate& x : candidates) {
-        if (!x.servesAsX) {
+        // The count comes first: a stream need not know what to say of an index that it does not have.
+        if (index >= stream->getCount() || !takesPart(*stream)) {
             continue;
         }
-        for (const Candidate& y : candidates) {
-            append({x.identifier, y.identifier, QCPAxis::stLinear, QCPAxis::stLinear, false});
+        const auto x = identifierOf(*stream);
+        if (!ys) {
+            ys.emplace();
+            for (const auto* other : streams) {
+                if (takesPart(*other)) {
+                    ys->push_back(identifierOf(*other));
+                }
+            }
+        }
+        for (const auto& y : *ys) {
+            append({x, y, QCPAxis::stLinear, QCPAxis::stLinear, false});
         }
     }
 }

@@ -57,7 +57,7 @@ public:
 
     /// True when the X name of \p representation is paired with its first or its second Y name in at least one valid
     /// record; false for null.
-    bool isRepresentationValid(const ConfigRepresentation* representation) const;
+    bool isRepresentationValid(const ConfigRepresentation* const representation) const;
 
     /// Appends a copy, valid or not, repeated or not.
     void append(const AxesCombination& combination);

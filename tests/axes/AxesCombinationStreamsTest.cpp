@@ -78,6 +78,15 @@ TEST(AxesCombinationStreams, StreamWhoseCountIsNotAboveTheIndexServesAsYOnly)
               }));
 }
 
+TEST(AxesCombinationStreams, NoStreamIsAskedForAnIndexThatIsBelowNoCount)
+{
+    FakeDataStream shortStream(u"Time"_s, u"a"_s, 2, {2});
+    FakeDataStream otherStream(u"Voltage"_s, u"a"_s, 1, {2});
+    EXPECT_EQ(fromStreams({&shortStream, &otherStream}, 2), QStringList());
+    EXPECT_EQ(shortStream.indexTests(), 0);
+    EXPECT_EQ(otherStream.indexTests(), 0);
+}
+
 TEST(AxesCombinationStreams, CountIsComparedAsASignedNumber)
 {
     FakeDataStream negative(u"Time"_s, u"a"_s, -1, {-2});

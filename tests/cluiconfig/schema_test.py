@@ -15,7 +15,6 @@ import shutil
 import subprocess
 import sys
 import tempfile
-import unittest
 
 import program
 

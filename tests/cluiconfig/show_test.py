@@ -1,7 +1,6 @@
 #!/usr/bin/env python3
 """Runs `cluiconfig show` as people do. usage: show_test.py PROGRAM SHIPPED_DOCUMENT"""
 
-import json
 import os
 import subprocess
 import unittest

@@ -33,6 +33,18 @@ struct RagonePlot
     }
 };
 
+template <typename Curve>
+QStringList texts(const QList<Curve>& curves)
+{
+    QStringList result;
+    for (const Curve& curve : curves) {
+        result.append(
+            QStringList{curve.getTitle(), curve.getCategory(), curve.getStreamX(), curve.getStreamY(), curve.getType()}
+                .join(u", "_s));
+    }
+    return result;
+}
+
 template <typename Section>
 class TitledGraphs : public UIConfigTest
 {
@@ -161,7 +173,8 @@ TYPED_TEST(TitledGraphs, FoundGraphIsACopy)
 TEST_F(UIConfigTest, SameSnippetGivesStatisticsAndRagonePlotTheSameGraphs)
 {
     const QJsonValue snippet =
-        jsonObject(R"({"b": [{"Title": "1", "X": "x"}, {"Title": "2", "Type": "t"}], "a": [{}]})");
+        jsonObject(R"({"b": [{"Title": "1", "Category": "c", "X": "x", "Y": "y"}, {"Title": "2", "Type": "t"}],
+                       "a": [{}]})");
     EXPECT_EQ(read(&UIConfigReaders::readStatsGraph, QJsonObject{{u"Statistics"_s, snippet}}), Success);
     EXPECT_EQ(read(&UIConfigReaders::readRagonePlotGraph, QJsonObject{{u"Ragone Plot"_s, snippet}}), Success);
     ASSERT_EQ(config.getStatsGraph().size(), config.getRagonePlotGraph().size());
@@ -169,9 +182,10 @@ TEST_F(UIConfigTest, SameSnippetGivesStatisticsAndRagonePlotTheSameGraphs)
         const StatisticsItem& statistics = config.getStatsGraph().at(i);
         const RagonePlotItem& ragone = config.getRagonePlotGraph().at(i);
         EXPECT_EQ(statistics.getTitle(), ragone.getTitle());
-        EXPECT_EQ(statistics.getGraphItemsTitleList(), ragone.getGraphItemsTitleList());
+        EXPECT_EQ(texts(statistics.getGraphItemsList()), texts(ragone.getGraphItemsList()));
     }
-    EXPECT_EQ(config.getStatsGraph().at(1).getGraphItemsTitleList(), QStringList({u"1"_s, u"2"_s}));
+    EXPECT_EQ(texts(config.getStatsGraph().at(1).getGraphItemsList()),
+              QStringList({u"1, c, x, y, "_s, u"2, , , , t"_s}));
 }
 
 TEST_F(UIConfigTest, StatisticsCurveFromTheDocumentHasNoFlagSet)

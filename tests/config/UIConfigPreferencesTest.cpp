@@ -2,6 +2,8 @@
 #include <config/SettingsKeys.h>
 #include <config/UIConfigTest.h>
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QVariant>
@@ -125,6 +127,28 @@ TEST_F(Preferences, StoredRenderingThatDoesNotConvertIsZeroNotTheDefault)
     store(MarkerValue, u"a thousand"_s);
     store(LineWidth, u"4294967296"_s);
     EXPECT_THAT(config().getRenderingConfiguration(), FieldsAre(0U, 0U, 0U, false, 0, 0));
+}
+
+// A folder in the place of the store's file can be neither read nor written, whoever runs the test.
+TEST_F(Preferences, UnreadableStoreGivesTheDefaults)
+{
+    ASSERT_TRUE(QDir().mkpath(QSettings().fileName()));
+    EXPECT_THAT(config().getRenderingConfiguration(), FieldsAre(32000U, 4000U, 8000U, true, 1000, 1));
+    EXPECT_TRUE(config().isRefreshDataConfirmDialogDisplay());
+    EXPECT_TRUE(config().isRemoveDataConfirmDialogDisplay());
+    EXPECT_TRUE(config().isDUTTypeEditionConfirmDialogDisplay());
+    EXPECT_FALSE(config().showStickersFrequency());
+}
+
+TEST_F(Preferences, StoreThatCannotBeWrittenIsPassedOver)
+{
+    ASSERT_TRUE(QDir().mkpath(QSettings().fileName()));
+    const UIConfig::RenderingConfiguration rendering{1, 2, 3, false, -4, 0};
+    config().setRenderingConfiguration(rendering);
+    EXPECT_TRUE(config().getRenderingConfiguration() == rendering) << "kept for the rest of the run";
+    config().setShowStickersFrequency(true);
+    EXPECT_FALSE(config().showStickersFrequency()) << "what the store holds, which is nothing";
+    EXPECT_TRUE(QFileInfo(QSettings().fileName()).isDir());
 }
 
 TEST_F(Preferences, RenderingIsKeptAndWrittenKeyByKeyWithItsTypes)

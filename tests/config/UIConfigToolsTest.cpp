@@ -80,10 +80,13 @@ TEST_F(SummaryTable, MissingPerStepHidesTheLaterKinds)
 
 TEST_F(SummaryTable, MissingPerCycleHidesPerLoop)
 {
-    EXPECT_EQ(readTools(R"({"Tools": {"Summary Table": {
-        "Per step": {"Step": ["Capacity"]}, "Per cycle": [], "Per loop": {"Loop": ["Energy"]}}}})"),
-              Success);
-    EXPECT_THAT(perStep(), ElementsAre(u"Step/Capacity"_s));
+    for (const char* perCycle : {"", R"("Per cycle": [], )", R"("Per cycle": null, )"}) {
+        EXPECT_EQ(readTools(QByteArray(R"({"Tools": {"Summary Table": {"Per step": {"Step": ["Capacity"]}, )")
+                            + perCycle + R"("Per loop": {"Loop": ["Energy"]}}}})"),
+                  Success);
+    }
+    EXPECT_THAT(perStep(), ElementsAre(u"Step/Capacity"_s, u"Step/Capacity"_s, u"Step/Capacity"_s));
+    EXPECT_THAT(perCycle(), IsEmpty());
     EXPECT_THAT(perLoop(), IsEmpty());
 }
 

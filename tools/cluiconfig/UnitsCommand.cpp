@@ -6,6 +6,7 @@
 #include <config/UIFilteredUnits.h>
 #include <datastorage/Converter.h>
 
+#include <array>
 #include <memory>
 #include <string>
 #include <utility>
@@ -54,12 +55,11 @@ QString reasonAgainst(UsualUnitType type, bool isFirst)
 /// REQUIRES: it does not.
 QString reasonAgainst(const UsualUnit& unit)
 {
-    const std::pair<bool, UsualUnitType> parts[] = {{true, unit.getUnit1()},
-                                                    {unit.hasUnit2(), unit.getUnit2()},
-                                                    {unit.hasUnit3(), unit.getUnit3()},
-                                                    {unit.hasUnit4(), unit.getUnit4()}};
+    using Part = std::pair<bool, UsualUnitType>;
+    const std::array parts{Part{true, unit.getUnit1()}, Part{unit.hasUnit2(), unit.getUnit2()},
+                           Part{unit.hasUnit3(), unit.getUnit3()}, Part{unit.hasUnit4(), unit.getUnit4()}};
     for (const auto& [isThere, type] : parts) {
-        const QString reason = isThere ? reasonAgainst(type, &type == &parts[0].second) : QString();
+        QString reason = isThere ? reasonAgainst(type, &type == &parts.front().second) : QString();
         if (!reason.isEmpty()) {
             return reason;
         }
