@@ -64,6 +64,37 @@ class Search(program.TestCase):
         finally:
             os.close(directory)
 
+    def test_arguments_that_make_no_sense_are_refused_with_exit_code_2(self):
+        for arguments in ((), ("a", "b", "c"), ("a", "-x"), ("a", "--max", "x"), ("a", "--max", ""), ("a", "--max", "0x2"),
+                          ("a", "--max", "3000000000"), ("a", "--max", "1", "--max", "2"), ("a", "--strategy")):
+            with self.subTest(arguments):
+                result = search(*arguments, stdin=b"a\n")
+                self.assertEqual((result.returncode, result.stdout), (2, b""))
+                self.assertNotEqual(result.stderr, b"")
+
+    def test_max_is_a_decimal_number(self):
+        self.expect_output(b"a\n" * 10, "a", "--max", "010", stdin=b"a\n" * 12)
+
+    def test_empty_name_of_a_file_is_no_file(self):
+        self.assertEqual(self.message(2, "search", "a", ""), "the name of FILE is empty\n")
+
+    def test_query_may_look_like_anything(self):
+        for query in ("--scores", "-5", "search", "[b,c]", "{}", "%1", "\\n"):
+            with self.subTest(query):
+                self.expect_output(f"<{query}>\n".encode(), "--", query, stdin=f"<{query}>\n<>\n".encode())
+
+    @program.needs_posix("an argument that is no text")
+    def test_query_is_taken_byte_by_byte(self):
+        self.expect_output(b"x\xffy\n", b"\xff", stdin=b"x\xffy\nx\xef\xbf\xbdy\n")
+
+    def test_scores_may_be_negative(self):
+        line = b"b" * 300 + b"a"
+        self.expect_output(b"-215\t" + line + b"\n", "a", "--strategy", "text", "--scores", stdin=line + b"\n")
+
+    def test_nul_ends_a_line_for_the_text_strategy_alone(self):
+        self.expect_output(b"", "b", "--strategy", "text", stdin=b"a\0b\n")
+        self.expect_output(b"a\0b\n", "b", stdin=b"a\0b\n")
+
     def test_unknown_strategy_is_refused_with_exit_code_2(self):
         self.assertIn("guess", self.message(2, "search", "a", "--strategy", "guess"))
 

@@ -83,11 +83,13 @@ TEST(FuzzyFinder, NegativeMaxResultsKeepsEverything)
     EXPECT_THAT(firstOf(std::numeric_limits<int>::min()), ElementsAre(0, 1, 2));
 }
 
-TEST(FuzzyFinder, DestroysTheStrategy)
+TEST(FuzzyFinder, DestroysTheStrategyBeforeItReturns)
 {
+    // Asked in the same expression, at whose end the arguments of the call go.
     bool destroyed = false;
-    FuzzyFinder::search("", {}, 1, std::make_unique<EverythingStrategy>(&destroyed));
-    EXPECT_TRUE(destroyed);
+    const bool destroyedAtReturn =
+        (FuzzyFinder::search("", {}, 1, std::make_unique<EverythingStrategy>(&destroyed)), destroyed);
+    EXPECT_TRUE(destroyedAtReturn);
 }
 
 TEST(FuzzyFinder, RanksWithTheStrategyItIsGiven)

@@ -63,7 +63,7 @@ std::string GeneratedTexts::text(std::size_t length)
 
 std::size_t GeneratedTexts::length()
 {
-    static constexpr std::array<std::size_t, 7> limits = {16, 64, 128, 200, 256, 512, 600};
+    static constexpr std::array<std::size_t, 8> limits = {16, 64, 80, 128, 200, 256, 512, 600};
     const std::size_t kind = below(16);
     if (kind < 7) {
         return below(20);

@@ -8,7 +8,7 @@
 
 /// Makes queries and candidates that are likely to show a difference between two ways of scoring them: few different
 /// letters, so that there are many ways to place a query, in between every byte from 0 to 255; commas, word gaps and
-/// changes of case everywhere; lengths around the limits of 16, 64, 128, 200, 256 and 512 bytes.
+/// changes of case everywhere; lengths around the limits of 16, 64, 80, 128, 200, 256 and 512 bytes.
 class GeneratedTexts
 {
 public:
@@ -25,8 +25,10 @@ public:
     /// A text that often, but not always, contains \p query.
     std::string candidate(const std::string& query);
 
-private:
+    /// Any text of \p length bytes, of the letters of the last query.
     std::string text(std::size_t length);
+
+private:
     std::size_t length();
 
     std::mt19937_64 m_random;

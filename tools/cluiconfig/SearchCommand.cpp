@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,7 +28,7 @@ constexpr auto TextStrategy = "text";
 struct SearchOptions
 {
     std::string query;
-    std::string file;
+    std::optional<std::string> file;
     std::string strategy = TechniqueStrategy;
     int maxResults = -1;
     bool scores = false;
@@ -66,8 +67,11 @@ QByteArray readFile(const std::string& path)
 /// list.
 QByteArray readInput(const SearchOptions& options)
 {
-    if (!options.file.empty()) {
-        return readFile(options.file);
+    if (options.file) {
+        if (options.file->empty()) {
+            fail("the name of FILE is empty");
+        }
+        return readFile(*options.file);
     }
     return isTerminal(stdin) ? readFile(TechniqueList) : readStandardInput();
 }
@@ -107,6 +111,17 @@ void printBestFirst(const std::vector<FuzzyMatch>& matches, const std::vector<st
     print(output);
 }
 
+/// The parser's own conversion takes 010 for eight and nothing for zero.
+int wholeNumber(const std::string& option, const std::string& text)
+{
+    bool isNumber = false;
+    const int number = QByteArray::fromStdString(text).toInt(&isNumber);
+    if (!isNumber) {
+        throw CLI::ValidationError(option, '"' + text + "\" is not a whole number within 32 bits");
+    }
+    return number;
+}
+
 void search(const SearchOptions& options)
 {
     useBytes();
@@ -132,7 +147,11 @@ void addSearchCommand(CLI::App& program)
     command->add_option("--strategy", options->strategy, "How lines are scored: as technique names, or as other texts.")
         ->check(CLI::IsMember({TechniqueStrategy, TextStrategy}))
         ->capture_default_str();
-    command->add_option("--max", options->maxResults, "Print at most so many lines; negative for all.");
+    command
+        ->add_option_function<std::string>(
+            "--max", [options](const std::string& text) { options->maxResults = wholeNumber("--max", text); },
+            "Print at most so many lines; negative for all.")
+        ->type_name("INT");
     command->add_flag("--scores", options->scores, "Print the score and a tab before each line.");
     command->footer(R"(Examples:
   cluiconfig search cv                                 technique names for "cv"

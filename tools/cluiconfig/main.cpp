@@ -12,16 +12,22 @@
 
 namespace {
 
-/// The arguments without the program's name, in UTF-8 whatever the platform's encoding, last one first as the parser
-/// takes them.
-std::vector<std::string> reversedArguments()
+/// The arguments without the program's name, last one first as the parser takes them: as they are or, where they are
+/// given in another encoding, in UTF-8.
+std::vector<std::string> reversedArguments([[maybe_unused]] int argc, [[maybe_unused]] char* argv[])
 {
     std::vector<std::string> arguments;
+#ifdef Q_OS_WIN
     const QStringList given = QCoreApplication::arguments().mid(1);
     for (const QString& argument : given) {
         arguments.push_back(argument.toStdString());
     }
     std::reverse(arguments.begin(), arguments.end());
+#else
+    for (int i = argc - 1; i > 0; --i) {
+        arguments.emplace_back(argv[i]);
+    }
+#endif
     return arguments;
 }
 
@@ -68,7 +74,7 @@ int main(int argc, char* argv[])
     cluiconfig::addCheckCommand(program);
     cluiconfig::addSchemaCommand(program);
     try {
-        program.parse(reversedArguments());
+        program.parse(reversedArguments(argc, argv));
     } catch (const CLI::RuntimeError& error) {
         return error.get_exit_code();
     } catch (const CLI::ParseError& error) {
