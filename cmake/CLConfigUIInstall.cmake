@@ -1,4 +1,4 @@
-# Installs the libraries, their headers and the package that find_package(CLConfigUI) finds.
+# Installs the libraries, their headers, the shipped data and the package that find_package(CLConfigUI) finds.
 
 include(CMakePackageConfigHelpers)
 
@@ -18,6 +18,12 @@ if(CLCONFIGUI_PLATFORM STREQUAL "bundled")
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/CLConfigUI
             FILES_MATCHING PATTERN "*.h" PATTERN "private" EXCLUDE)
 endif()
+
+install(FILES
+    ${PROJECT_SOURCE_DIR}/data/UIConfig.json
+    ${PROJECT_SOURCE_DIR}/data/UIConfig.schema.json
+    ${PROJECT_SOURCE_DIR}/data/DataArrays.json
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/CLConfigUI)
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/CLConfigUIConfig.cmake.in
     ${PROJECT_BINARY_DIR}/CLConfigUIConfig.cmake INSTALL_DESTINATION ${_package_dir})

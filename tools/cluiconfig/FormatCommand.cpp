@@ -121,7 +121,7 @@ void addFormatCommand(CLI::App& program)
         "format", "Print a document in the one usual layout, or give it that layout. Only blanks change.");
     command->add_option("DOCUMENT", options->document, "The document, or any other JSON file.")->required();
     CLI::Option* check =
-        command->add_flag("--check", options->check, "Print nothing; exit code 1 when the layout is another one.");
+        command->add_flag("--check", options->check, "Print no document; exit code 1 when the layout is another one.");
     command
         ->add_flag("--in-place", options->inPlace,
                    "Replace the file, in one step: whatever goes wrong, it is the old one or the new one. A file that "

@@ -62,8 +62,9 @@ void checkRepresentations(const Value& root, const Catalogue& catalogue, const A
         if (isDefault && isDefault->json().toBool()) {
             if (hasDefault) {
                 findings.add(Rule::SecondDefault, Severity::Warning, *isDefault, [] {
-                    return u"Another representation before this one is the default: this mark chooses nothing. Leave "
-                           "\"Default\": true at one of them."_s;
+                    return u"Another representation before this one is the default: this one is not used, but its "
+                           u"arrays "
+                           "become default axes, too. Leave \"Default\": true at one of them."_s;
                 });
             }
             hasDefault = true;
