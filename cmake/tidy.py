@@ -52,7 +52,6 @@ def main(source_dir, build_dir, *folders):
 
     common = hashlib.sha256()
     common.update(subprocess.run(["clang-tidy", "--version"], capture_output=True, check=True).stdout)
-    common.update((source_dir / ".clang-tidy").read_bytes())
 
     depends = dependencies(build_dir)
     commands, todo = [], []
@@ -68,6 +67,9 @@ def main(source_dir, build_dir, *folders):
 
         key = common.copy()
         key.update("\0".join(arguments).encode())
+        for folder in source.parents:
+            if (folder / ".clang-tidy").exists():
+                key.update((folder / ".clang-tidy").read_bytes())
         output = arguments[arguments.index("-o") + 1]
         for file in sorted({str(source), *depends.get(output, [])}):
             path = build_dir / file

@@ -14,7 +14,7 @@ namespace {
 
 /// The arguments without the program's name, last one first as the parser takes them: as they are or, where they are
 /// given in another encoding, in UTF-8.
-std::vector<std::string> reversedArguments([[maybe_unused]] int argc, [[maybe_unused]] char* argv[])
+std::vector<std::string> reversedArguments([[maybe_unused]] int argc, [[maybe_unused]] const char* const* argv)
 {
     std::vector<std::string> arguments;
 #ifdef Q_OS_WIN

@@ -63,8 +63,7 @@ void checkRepresentations(const Value& root, const Catalogue& catalogue, const A
             if (hasDefault) {
                 findings.add(Rule::SecondDefault, Severity::Warning, *isDefault, [] {
                     return u"Another representation before this one is the default: this one is not used, but its "
-                           u"arrays "
-                           "become default axes, too. Leave \"Default\": true at one of them."_s;
+                           "arrays become default axes, too. Leave \"Default\": true at one of them."_s;
                 });
             }
             hasDefault = true;
