@@ -65,6 +65,7 @@ TEST(AxesCombinationManagerThreads, ManyThreadsMayQueryOneManager)
     const AxesCombinationManager manager = pairedByParity();
     std::atomic<int> wrong = 0;
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&manager, &wrong] {
             for (int round = 0; round < 500; ++round) {
@@ -83,6 +84,7 @@ TEST(AxesCombinationManagerThreads, EveryThreadMayChangeItsOwnCopy)
     const AxesCombinationManager manager = pairedByParity();
     std::atomic<int> wrong = 0;
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&manager, &wrong] {
             for (int round = 0; round < 100; ++round) {

@@ -11,6 +11,7 @@
 
 #include <random>
 #include <utility>
+#include <vector>
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -218,7 +219,7 @@ struct SectionRule
 
 std::vector<Replacement> replacements()
 {
-    const SectionRule rules[] = {
+    const std::vector<SectionRule> rules = {
         {u"Axes combinations"_s, QJsonValue::Array, u"Axes combinations array missing"_s, Success},
         {u"Representations"_s, QJsonValue::Array, u"Representations array missing"_s, Success},
         {u"MSVUnits"_s, QJsonValue::Array, u"Multi units combinations array missing"_s, Success},
@@ -234,7 +235,7 @@ std::vector<Replacement> replacements()
         {u"dQ_dU"_s, QJsonValue::Object, u"Missing dQ/dU node"_s, u"Missing dQ/dU table configuration node"_s},
         {u"Debug"_s, QJsonValue::Undefined, Success, Success},
     };
-    const std::pair<QString, QJsonValue> values[] = {
+    const std::vector<std::pair<QString, QJsonValue>> values = {
         {u"null"_s, QJsonValue::Null},
         {u"number"_s, 29},
         {u"string"_s, u"text"_s},
@@ -314,7 +315,7 @@ private:
 
     QJsonValue wrongValue()
     {
-        const QJsonValue values[] = {
+        const QList<QJsonValue> values = {
             QJsonValue::Null,
             0,
             -1,
@@ -330,7 +331,7 @@ private:
             QJsonObject(),
             QJsonObject{{u"Name"_s, 7}, {u"X"_s, QJsonArray{3}}, {u""_s, true}},
         };
-        return values[below(std::ssize(values))];
+        return values[below(values.size())];
     }
 
     std::mt19937 m_random;

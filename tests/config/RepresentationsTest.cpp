@@ -263,7 +263,7 @@ TEST(ConfigRepresentationManagerTest, CopiesShareTheRecordsAndTheirDestructionDe
     auto* record = new ConfigRepresentation(u"n"_s, u"x"_s, u"y"_s, {}, {}, true);
     manager.append(record);
     {
-        const ConfigRepresentationManager copy(manager);
+        const ConfigRepresentationManager copy(manager); // NOLINT(performance-unnecessary-copy-initialization)
         ConfigRepresentationManager assigned;
         assigned = copy;
         EXPECT_THAT(copy.getConfigRepresentationList(), ElementsAre(record));
@@ -283,12 +283,14 @@ TEST(ConfigRepresentationManagerTest, MovesTakeTheListAndLeaveTheSourceEmpty)
 
     ConfigRepresentationManager constructed(std::move(source));
     EXPECT_THAT(constructed.getConfigRepresentationList(), ElementsAre(record));
-    EXPECT_THAT(source.getConfigRepresentationList(), IsEmpty()); // NOLINT(bugprone-use-after-move)
+    EXPECT_THAT(source.getConfigRepresentationList(),
+                IsEmpty()); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
 
     ConfigRepresentationManager assigned;
     assigned = std::move(constructed);
     EXPECT_THAT(assigned.getConfigRepresentationList(), ElementsAre(record));
-    EXPECT_THAT(constructed.getConfigRepresentationList(), IsEmpty()); // NOLINT(bugprone-use-after-move)
+    EXPECT_THAT(constructed.getConfigRepresentationList(),
+                IsEmpty()); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
     assigned.deleteAllAndClear();
 }
 
@@ -364,7 +366,7 @@ TEST(RepresentationTest, MoveConstructionTakesTheCopyAndLeavesNull)
         const ConfigRepresentation* held = source.getConfig();
         const Representation target(std::move(source));
         EXPECT_EQ(target.getConfig(), held);
-        EXPECT_EQ(source.getConfig(), nullptr); // NOLINT(bugprone-use-after-move)
+        EXPECT_EQ(source.getConfig(), nullptr); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
     }
     EXPECT_EQ(record.name(), u"n"_s);
 }
@@ -381,12 +383,12 @@ TEST(RepresentationTest, MoveAssignmentDeletesWhatItHeld)
     const ConfigRepresentation* held = source.getConfig();
     target = std::move(source);
     EXPECT_EQ(target.getConfig(), held);
-    EXPECT_EQ(source.getConfig(), nullptr); // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(source.getConfig(), nullptr); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
     EXPECT_TRUE(replaced.isDetached()) << "the earlier record was not deleted";
 
     source = std::move(target); // a handle that was moved from can be filled again
     EXPECT_EQ(source.getConfig(), held);
-    EXPECT_EQ(target.getConfig(), nullptr); // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(target.getConfig(), nullptr); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
 }
 
 TEST(RepresentationTest, MoveToItselfKeepsTheRecord)

@@ -65,7 +65,7 @@ TEST_F(ShippedDocument, HoldsNoKeyTwice)
     // The parser keeps the last of two equal keys, so the text holds more names of members than the objects do.
     qsizetype members = 0;
     const auto count = [&](const QJsonValue& value, const auto& self) -> void {
-        for (const QJsonValue& element : value.toArray()) {
+        for (const auto& element : value.toArray()) {
             self(element, self);
         }
         const QJsonObject object = value.toObject();
@@ -105,7 +105,7 @@ TEST_F(ShippedDocument, EveryAxesEntryYieldsCombinations)
         EXPECT_FALSE(manager.getAxesCombinations().isEmpty()) << i;
         for (const auto* axis : {"X", "Y1/Y2"}) {
             const QJsonArray references = entries.at(i).toObject().value(QLatin1StringView(axis)).toArray();
-            for (const QJsonValue& reference : references) {
+            for (const auto& reference : references) {
                 const QString name = reference.toObject().value("Name"_L1).toString();
                 EXPECT_FALSE(
                     Singleton<RawDataCollection>::instance().getDataConfiguration().getConfigDataArrays(name).isEmpty())

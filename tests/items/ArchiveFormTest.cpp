@@ -129,8 +129,8 @@ QJsonValue emptyOf(const QJsonValue& value)
 
 QJsonObject emptyOf(QJsonObject form)
 {
-    for (auto field = form.begin(); field != form.end(); ++field) {
-        *field = emptyOf(*field);
+    for (auto field : form) {
+        field = emptyOf(field);
     }
     return form;
 }
@@ -275,6 +275,6 @@ TEST(AAnalysisItem, AssignmentOfTheBaseCopiesNothing)
     full.setTitle(u"title"_s);
     DQdUAnalysisItem other;
     AAnalysisItem& base = other;
-    EXPECT_EQ(&(base = full), &base);
+    EXPECT_EQ(&(base = full), &base); // NOLINT(cppcoreguidelines-slicing): nothing but the base is assigned
     EXPECT_EQ(other.getTitle(), QString());
 }

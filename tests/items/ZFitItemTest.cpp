@@ -122,6 +122,7 @@ TEST(ZFitItem, ManyThreadsMayAskForElements)
     const ZFitItem item = withCircuit(u"R1+(R2/C2)"_s);
     std::vector<QStringList> answers(4);
     std::vector<std::thread> threads;
+    threads.reserve(answers.size());
     for (QStringList& answer : answers) {
         threads.emplace_back([&item, &answer] { answer = item.getElements(); });
     }

@@ -278,7 +278,7 @@ TEST(ShippedConfiguration, CompoundUnitsAreNamedAsTheConverterNamesThemAndOffere
     const QJsonArray combinations = readConfiguration()[u"MSVUnits"].toArray();
     EXPECT_FALSE(combinations.isEmpty());
     QSet<QString> parameters;
-    for (const QJsonValue& combination : combinations) {
+    for (const auto& combination : combinations) {
         const QString name = combination[u"PhysicalParameter"].toString();
         const PhysicalParameter parameter = Converter::getPhysicalParameterFromString(name);
         const auto op = Converter::getOperatorFromString(combination[u"Operator"].toString());

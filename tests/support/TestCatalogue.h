@@ -25,7 +25,7 @@ public:
         cl::batterydata::ExportCategory exportCategory = cl::batterydata::ExportCategory::Standard;
     };
 
-    explicit TestCatalogue(std::initializer_list<Array> arrays = {});
+    TestCatalogue(std::initializer_list<Array> arrays = {});
     TestCatalogue(const TestCatalogue&) = delete;
     TestCatalogue& operator=(const TestCatalogue&) = delete;
     ~TestCatalogue();

@@ -64,11 +64,11 @@ private:
     /// Sometimes with a second member under a key that stands first or last in the text.
     QByteArray withRepeatedKey(QByteArray bytes)
     {
-        const char* const values[] = {"0", "\"text\"", "[]", "{}", "null"};
-        const QByteArray value = values[below(std::ssize(values))];
+        const QList<QByteArray> values = {"0", "\"text\"", "[]", "{}", "null"};
+        const QByteArray& value = values[below(values.size())];
         if (bytes.contains(':') && below(10) == 0) {
-            const QByteArray keys[] = {"Version", "Colors", "Axes combinations", "Debug", "dQ_dU"};
-            const QByteArray member = '"' + keys[below(std::ssize(keys))] + "\": " + value;
+            const QList<QByteArray> keys = {"Version", "Colors", "Axes combinations", "Debug", "dQ_dU"};
+            const QByteArray member = '"' + keys[below(keys.size())] + "\": " + value;
             if (below(2) == 0) {
                 bytes.insert(1, member + ',');
             } else {
@@ -152,7 +152,7 @@ private:
 
     QJsonValue otherValue()
     {
-        const QJsonValue values[] = {
+        const QList<QJsonValue> values = {
             QJsonValue::Null,
             0,
             29,
@@ -170,7 +170,7 @@ private:
             QJsonObject{{u"Name"_s, u"Voltage / V"_s}},
             QJsonObject{{u"Name"_s, 7}, {u"X"_s, QJsonArray{3}}, {u""_s, true}},
         };
-        return values[below(std::ssize(values))];
+        return values[below(values.size())];
     }
 
     std::mt19937 m_random;
