@@ -283,14 +283,14 @@ TEST(ConfigRepresentationManagerTest, MovesTakeTheListAndLeaveTheSourceEmpty)
 
     ConfigRepresentationManager constructed(std::move(source));
     EXPECT_THAT(constructed.getConfigRepresentationList(), ElementsAre(record));
-    EXPECT_THAT(source.getConfigRepresentationList(),
-                IsEmpty()); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
+    // NOLINTNEXTLINE(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
+    EXPECT_THAT(source.getConfigRepresentationList(), IsEmpty());
 
     ConfigRepresentationManager assigned;
     assigned = std::move(constructed);
     EXPECT_THAT(assigned.getConfigRepresentationList(), ElementsAre(record));
-    EXPECT_THAT(constructed.getConfigRepresentationList(),
-                IsEmpty()); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
+    // NOLINTNEXTLINE(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
+    EXPECT_THAT(constructed.getConfigRepresentationList(), IsEmpty());
     assigned.deleteAllAndClear();
 }
 
