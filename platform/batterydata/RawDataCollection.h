@@ -1,8 +1,8 @@
 #pragma once
 
+#include <base/Singleton.h>
 #include <batterydata/ClConfigDataArrayManager.h>
 #include <clbatterydata_export.h>
-#include <config/Singleton.h>
 
 namespace cl::batterydata {
 class RawDataCollection;

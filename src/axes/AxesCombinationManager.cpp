@@ -1,8 +1,8 @@
 #include <axes/AxesCombinationManager.h>
 
-#include <axes/private/RecordList.h>
+#include <axes/ConfigRepresentation.h>
+#include <base/RecordList.h>
 #include <batterydata/ClConfigDataArray.h>
-#include <config/ConfigRepresentation.h>
 #include <dataprocess/IDataStream.h>
 
 #include <QJsonArray>
@@ -118,7 +118,19 @@ bool AxesCombinationManager::isRepresentationValid(const ConfigRepresentation* c
 void AxesCombinationManager::append(const AxesCombination& combination)
 {
     m_combinations.append(combination);
-    indexRecord(m_combinations.size() - 1);
+    indexRecordsFrom(m_combinations.size() - 1);
+}
+
+void AxesCombinationManager::appendAll(QList<AxesCombination> combinations)
+{
+    const qsizetype first = m_combinations.size();
+    if (first == 0) {
+        m_combinations = std::move(combinations);
+        m_index.reserve(m_combinations.size());
+    } else {
+        m_combinations.append(std::move(combinations));
+    }
+    indexRecordsFrom(first);
 }
 
 void AxesCombinationManager::appendSharing(const AxesCombination& combination)
@@ -199,11 +211,13 @@ void AxesCombinationManager::removeDuplicates()
     replaceCombinations(combinations);
 }
 
-void AxesCombinationManager::indexRecord(qsizetype record)
+void AxesCombinationManager::indexRecordsFrom(qsizetype first)
 {
-    const AxesCombination& combination = m_combinations.at(record);
-    if (combination.isValid()) {
-        m_index.add(combination.getConfigX().getName(), combination.getConfigY().getName(), record);
+    for (qsizetype record = first; record < m_combinations.size(); ++record) {
+        const AxesCombination& combination = m_combinations.at(record);
+        if (combination.isValid()) {
+            m_index.add(combination.getConfigX().getName(), combination.getConfigY().getName(), record);
+        }
     }
 }
 
@@ -212,7 +226,5 @@ void AxesCombinationManager::replaceCombinations(const QList<AxesCombination>& c
     m_combinations = combinations;
     m_index.clear();
     m_index.reserve(m_combinations.size());
-    for (qsizetype record = 0; record < m_combinations.size(); ++record) {
-        indexRecord(record);
-    }
+    indexRecordsFrom(0);
 }

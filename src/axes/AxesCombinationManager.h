@@ -62,6 +62,9 @@ public:
     /// Appends a copy, valid or not, repeated or not.
     void append(const AxesCombination& combination);
 
+    /// Appends the records of \p combinations in their order.
+    void appendAll(QList<AxesCombination> combinations);
+
     /// Empties the list.
     void deleteAll();
 
@@ -89,7 +92,7 @@ private:
     /// Appends a record from an archive, whose texts are its own, with those of the records before it where they are
     /// the same: names of any of them, the category of the last one.
     void appendSharing(const AxesCombination& combination);
-    void indexRecord(qsizetype record);
+    void indexRecordsFrom(qsizetype first);
     void replaceCombinations(const QList<AxesCombination>& combinations);
 
     QList<AxesCombination> m_combinations;

@@ -1,6 +1,6 @@
 #include <config/ConfigRepresentationManager.h>
 
-#include <config/ConfigRepresentation.h>
+#include <axes/ConfigRepresentation.h>
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 #include <config/Representation.h>
 
-#include <config/ConfigRepresentation.h>
+#include <axes/ConfigRepresentation.h>
 
 Representation::Representation(ConfigRepresentation* config)
     : m_config(std::make_unique<ConfigRepresentation>(*config))

@@ -1,15 +1,41 @@
 #include <config/UIConfig.h>
 
+#include <batterydata/ClConfigDataArray.h>
+#include <batterydata/RawDataCollection.h>
+#include <config/Configuration.h>
 #include <datastorage/JsonUtils.h>
 
-#include <algorithm>
-#include <array>
+#include <utility>
 
+using cl::batterydata::ClConfigDataArray;
+using cl::batterydata::ExportCategory;
+using cl::datastorage::ConfigDataArray;
 using cl::datastorage::JsonUtils;
 
 namespace {
 
-constexpr int FormatVersion = 29;
+// The arrays of this category may become default axes.
+constexpr ExportCategory DefaultAxesCategory{2};
+
+using DefaultSetter = void (ConfigDataArray::*)(bool);
+
+void markAsDefault(const QList<ConfigDataArray*>& arrays, DefaultSetter setDefault)
+{
+    for (ConfigDataArray* array : arrays) {
+        const auto* configured = dynamic_cast<ClConfigDataArray*>(array);
+        if (configured != nullptr && configured->getExportCategory() == DefaultAxesCategory) {
+            (array->*setDefault)(true);
+        }
+    }
+}
+
+void markDefaultAxes(const ConfigRepresentation& representation,
+                     const cl::batterydata::ClConfigDataArrayManager& catalogue)
+{
+    markAsDefault(catalogue.getConfigDataArrays(representation.x()), &ConfigDataArray::setDefaultX);
+    markAsDefault(catalogue.getConfigDataArrays(representation.y1()), &ConfigDataArray::setDefaultY1);
+    markAsDefault(catalogue.getConfigDataArrays(representation.y2()), &ConfigDataArray::setDefaultY2);
+}
 
 } // namespace
 
@@ -42,23 +68,65 @@ void UIConfig::deleteAll()
 
 bool UIConfig::readUIConfiguration(const QString& path, QString& error)
 {
-    using Reader = bool (UIConfig::*)(const QJsonObject&, QString&);
-    constexpr auto Readers = std::to_array<Reader>({
-        &UIConfig::readRepresentations,
-        &UIConfig::readMSVUnitsCombinationsConfig,
-        &UIConfig::readFilters,
-        &UIConfig::readTools,
-        &UIConfig::readColors,
-        &UIConfig::readStatsGraph,
-        &UIConfig::readRagonePlotGraph,
-        &UIConfig::readProcessedDataGraph,
-        &UIConfig::readContentListForRecipe,
-        &UIConfig::readProcessFormulaConfig,
-        &UIConfig::readDQdUColumns,
-        &UIConfig::readDebugFlags,
-    });
     QJsonObject root;
-    return JsonUtils::openJsonDocument(path, error, root) && JsonUtils::checkVersionNumber(root, FormatVersion, error)
-        && m_axesCombinationManager.readAxesCombinations(root, error)
-        && std::all_of(Readers.begin(), Readers.end(), [&](Reader reader) { return (this->*reader)(root, error); });
+    if (!JsonUtils::openJsonDocument(path, error, root)) {
+        return false;
+    }
+    uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
+    uiconfig::Configuration configuration;
+    uiconfig::readConfiguration(root, catalogue(), configuration, refusals);
+    take(std::move(configuration));
+    return refusals.isEmpty(error);
+}
+
+bool UIConfig::readSection(QLatin1StringView key, const QJsonObject& root, QString& error)
+{
+    uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
+    uiconfig::Configuration configuration;
+    uiconfig::readSection(key, root, catalogue(), configuration, refusals);
+    take(std::move(configuration));
+    return refusals.isEmpty(error);
+}
+
+const cl::batterydata::ClConfigDataArrayManager& UIConfig::catalogue()
+{
+    return lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
+}
+
+void UIConfig::take(uiconfig::Configuration&& read)
+{
+    m_axesCombinationManager.appendAll(std::move(read.axesCombinations));
+    for (ConfigRepresentation& representation : read.representations) {
+        if (representation.isDefault()) {
+            markDefaultAxes(representation, catalogue());
+        }
+        m_configRepresentationManager.append(new ConfigRepresentation(std::move(representation)));
+    }
+    for (const MSVUnitsCombination& combination : std::as_const(read.msvUnits)) {
+        m_msvUnitsCombinationManager.append(new MSVUnitsCombination(combination));
+    }
+    m_skippedTasks.append(std::move(read.skippedTasks));
+    m_customColors.append(std::move(read.colors.custom));
+    m_defaultColors.insert(std::move(read.colors.defaults));
+    m_summaryTablePerStepColumns.append(std::move(read.summaryTables.perStep));
+    m_summaryTablePerCycleColumns.append(std::move(read.summaryTables.perCycle));
+    m_summaryTablePerLoopColumns.append(std::move(read.summaryTables.perLoop));
+    m_statsGraph.append(std::move(read.statistics));
+    m_ragonePlotGraph.append(std::move(read.ragonePlots));
+    m_processedDataGraph.append(std::move(read.processedData));
+    if (read.dQdU.graph) {
+        m_dQdUItem = *read.dQdU.graph;
+    }
+    appendRecipeItems(read.recipe.graphCombinations, m_recipeGraphCombinationsList);
+    appendRecipeItems(read.recipe.toolsGraphs, m_recipeToolsGraphsList);
+    appendRecipeItems(read.recipe.toolsTables, m_recipeToolsTablesList);
+    m_xFormulas.append(std::move(read.processFormulas.x));
+    m_y1Formulas.append(std::move(read.processFormulas.y1));
+    m_y2Formulas.append(std::move(read.processFormulas.y2));
+    if (read.debugFlags) {
+        m_importDialogShowClIds = read.debugFlags->importDialogShowClIds;
+        m_saveImportedParquetFiles = read.debugFlags->saveImportedParquetFiles;
+        m_saveZFitInputData = read.debugFlags->saveZFitInputData;
+    }
+    m_dQdUColumns.append(std::move(read.dQdU.columns));
 }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <axes/AxesCombinationManager.h>
+#include <base/Singleton.h>
 #include <clconfigui_export.h>
 #include <config/ConfigRepresentationManager.h>
 #include <config/MSVUnitsCombinationManager.h>
 #include <config/RecipeConfigItem.h>
-#include <config/Singleton.h>
 #include <items/DQdUAnalysisItem.h>
 #include <items/ProcessedDataItem.h>
 #include <items/RagonePlotItem.h>
@@ -14,6 +14,7 @@
 #include <QColor>
 #include <QJsonObject>
 #include <QJsonValue>
+#include <QLatin1StringView>
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -26,7 +27,14 @@ class UIConfig;
 
 namespace cl::batterydata {
 class ClConfigDataArray;
-}
+class ClConfigDataArrayManager;
+} // namespace cl::batterydata
+
+namespace uiconfig {
+struct Configuration;
+struct RecipeEntry;
+class Refusals;
+} // namespace uiconfig
 
 extern template CLCONFIGUI_EXPORT UIConfig& lumo::tools::Singleton<UIConfig>::instance();
 
@@ -217,6 +225,13 @@ protected:
 
 private:
     static RenderingConfiguration readRenderingConfiguration();
+    static const cl::batterydata::ClConfigDataArrayManager& catalogue();
+    static void appendRecipeItems(const QList<uiconfig::RecipeEntry>& entries, QList<RecipeConfigItem>& list);
+
+    /// Appends what was read to what is there.
+    void take(uiconfig::Configuration&& read);
+    /// Reads the section \p key and takes it over, up to the first refusal.
+    bool readSection(QLatin1StringView key, const QJsonObject& root, QString& error);
 
     // The order is part of the class's contract: construction and destruction follow it.
     AxesCombinationManager m_axesCombinationManager;

@@ -1,9 +1,11 @@
 #include <items/DQdUAnalysisItem.h>
 
-#include <axes/private/CatalogueLookup.h>
-#include <axes/private/JsonFields.h>
+#include <base/DocumentKeys.h>
+#include <base/JsonFields.h>
+#include <items/private/CatalogueLookup.h>
 
 using namespace Qt::StringLiterals;
+namespace keys = uiconfig::keys;
 
 namespace {
 
@@ -11,11 +13,6 @@ constexpr auto TitleKey = "title"_L1;
 constexpr auto CategoryKey = "category"_L1;
 constexpr auto StreamXKey = "streamX"_L1;
 constexpr auto StreamY1Key = "streamY1"_L1;
-
-constexpr auto EntryTitleKey = "Title"_L1;
-constexpr auto EntryCategoryKey = "Category"_L1;
-constexpr auto EntryXKey = "X"_L1;
-constexpr auto EntryY1Key = "Y1"_L1;
 
 } // namespace
 
@@ -51,8 +48,8 @@ AxesCombination DQdUAnalysisItem::getAxesCombination() const
 void DQdUAnalysisItem::readGraphItem(const QJsonObject& entry)
 {
     const JsonFields fields(entry);
-    m_title = fields.text(EntryTitleKey);
-    m_category = fields.text(EntryCategoryKey);
-    m_streamX = fields.text(EntryXKey);
-    m_streamY1 = fields.text(EntryY1Key);
+    m_title = fields.text(keys::Title);
+    m_category = fields.text(keys::Category);
+    m_streamX = fields.text(keys::X);
+    m_streamY1 = fields.text(keys::Y1);
 }

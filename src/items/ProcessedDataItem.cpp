@@ -1,11 +1,13 @@
 #include <items/ProcessedDataItem.h>
 
-#include <axes/private/CatalogueLookup.h>
-#include <axes/private/JsonFields.h>
+#include <base/DocumentKeys.h>
+#include <base/JsonFields.h>
 #include <datastorage/JsonUtils.h>
+#include <items/private/CatalogueLookup.h>
 
 using namespace Qt::StringLiterals;
 using cl::datastorage::JsonUtils;
+namespace keys = uiconfig::keys;
 
 namespace {
 
@@ -15,13 +17,6 @@ constexpr auto StreamXKey = "streamX"_L1;
 constexpr auto StreamY1Key = "streamY1"_L1;
 constexpr auto StreamY2Key = "streamY2"_L1;
 constexpr auto ProcessedKey = "processedYAxis"_L1;
-
-constexpr auto EntryTitleKey = "Title"_L1;
-constexpr auto EntryCategoryKey = "Category"_L1;
-constexpr auto EntryXKey = "X"_L1;
-constexpr auto EntryY1Key = "Y1"_L1;
-constexpr auto EntryY2Key = "Y2"_L1;
-constexpr auto EntryProcessedKey = "Y_processed"_L1;
 
 } // namespace
 
@@ -61,10 +56,10 @@ AxesCombination ProcessedDataItem::getAxesCombination() const
 void ProcessedDataItem::readGraphItem(const QJsonObject& entry)
 {
     const JsonFields fields(entry);
-    m_title = fields.text(EntryTitleKey);
-    m_category = fields.text(EntryCategoryKey);
-    m_streamX = fields.text(EntryXKey);
-    m_streamY1 = fields.text(EntryY1Key);
-    m_streamY2 = fields.text(EntryY2Key);
-    m_processedStreamsY = fields.texts(EntryProcessedKey);
+    m_title = fields.text(keys::Title);
+    m_category = fields.text(keys::Category);
+    m_streamX = fields.text(keys::X);
+    m_streamY1 = fields.text(keys::Y1);
+    m_streamY2 = fields.text(keys::Y2);
+    m_processedStreamsY = fields.texts(keys::YProcessed);
 }

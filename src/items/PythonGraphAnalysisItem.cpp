@@ -1,6 +1,6 @@
 #include <items/PythonGraphAnalysisItem.h>
 
-#include <axes/private/JsonFields.h>
+#include <base/JsonFields.h>
 
 using namespace Qt::StringLiterals;
 

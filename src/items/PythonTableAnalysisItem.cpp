@@ -1,6 +1,6 @@
 #include <items/PythonTableAnalysisItem.h>
 
-#include <axes/private/JsonFields.h>
+#include <base/JsonFields.h>
 
 #include <QJsonArray>
 

@@ -1,6 +1,6 @@
 #include <items/RagonePlotChildItem.h>
 
-#include <axes/private/CatalogueLookup.h>
+#include <items/private/CatalogueLookup.h>
 #include <items/private/Curves.h>
 
 RagonePlotChildItem::RagonePlotChildItem() = default;

@@ -1,17 +1,7 @@
 #include <items/RagonePlotItem.h>
 
-#include <axes/private/RecordList.h>
+#include <base/TitleLookup.h>
 #include <items/private/Curves.h>
-#include <items/private/TitleLookup.h>
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr auto TitleKey = "title"_L1;
-constexpr auto GraphItemsKey = "graphItemsList"_L1;
-
-} // namespace
 
 RagonePlotItem::RagonePlotItem() = default;
 RagonePlotItem::RagonePlotItem(const RagonePlotItem& other) = default;
@@ -20,16 +10,12 @@ RagonePlotItem::~RagonePlotItem() = default;
 
 bool RagonePlotItem::read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context)
 {
-    m_title = object.value(TitleKey).toString();
-    m_graphItems = readRecords<RagonePlotChildItem>(object.value(GraphItemsKey).toArray(), version, context);
-    return true;
+    return curves::readGraph(m_title, m_graphItems, object, version, context);
 }
 
 bool RagonePlotItem::write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const
 {
-    object.insert(TitleKey, m_title);
-    object.insert(GraphItemsKey, writeRecords(m_graphItems, version, context));
-    return true;
+    return curves::writeGraph(m_title, m_graphItems, object, version, context);
 }
 
 const RagonePlotChildItem

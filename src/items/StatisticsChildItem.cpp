@@ -1,7 +1,7 @@
 #include <items/StatisticsChildItem.h>
 
-#include <axes/private/CatalogueLookup.h>
-#include <axes/private/JsonFields.h>
+#include <base/JsonFields.h>
+#include <items/private/CatalogueLookup.h>
 #include <items/private/Curves.h>
 
 using namespace Qt::StringLiterals;

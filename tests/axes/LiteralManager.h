@@ -1,11 +1,11 @@
 #pragma once
 
 #include <axes/AxesCombination.h>
+#include <base/Singleton.h>
 #include <batterydata/ClConfigDataArray.h>
 #include <batterydata/ClConfigDataArrayManager.h>
 #include <batterydata/RawDataCollection.h>
 #include <config/ConfigRepresentation.h>
-#include <config/Singleton.h>
 #include <dataprocess/IDataStream.h>
 
 #include <QJsonArray>

@@ -1,4 +1,5 @@
-#include <axes/private/RecordList.h>
+#include <archive/ArchiveContext.h>
+#include <base/RecordList.h>
 
 #include <support/Json.h>
 #include <support/QtPrinters.h>

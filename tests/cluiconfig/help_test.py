@@ -12,7 +12,6 @@ import program
 
 SOURCE = pathlib.Path(__file__).resolve().parents[2]
 MANUAL = SOURCE / "docs" / "cluiconfig.1"
-COMPLETION = SOURCE / "tools" / "cluiconfig" / "completion.bash"
 
 
 def options_in(text):
@@ -34,17 +33,6 @@ class Help(program.TestCase):
         section = self.manual.split(f"\n.Ss {command}\n")[1]
         section = re.split(r"\n\.S[sh] ", section)[0]
         return {f"-{name}" for name in re.findall(r"^\.It Fl (-[a-z-]+)", section, re.MULTILINE)}
-
-    def completed(self, *words):
-        """What bash offers for the last word, or None where there is no bash."""
-        bash = shutil.which("bash")
-        if bash is None:
-            self.skipTest("needs bash")
-        script = f"source '{COMPLETION}'; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _cluiconfig; printf '%s\\n' \"${{COMPREPLY[@]}}\""
-        result = subprocess.run([bash, "-c", script, "bash", "cluiconfig", *words], capture_output=True, text=True,
-                                cwd=self.directory, timeout=60)
-        self.assertEqual((result.returncode, result.stderr), (0, ""))
-        return result.stdout.split("\n")[:-1]
 
     def test_there_are_commands_and_options_to_compare(self):
         self.assertLessEqual({"show", "axes", "units", "diff", "format", "search"}, set(self.commands))
@@ -79,8 +67,6 @@ class Help(program.TestCase):
             if formats:
                 self.assertEqual(set(self.completed(command, "--format", "")), set(formats[1].split(",")), command)
         self.assertEqual(self.completed("search", "--strategy", "te"), ["technique", "text"])
-        for section in self.completed("show", "--section", ""):
-            self.assertEqual(self.run_program("show", "--section", section).returncode, 0, section)
 
     def test_completion_offers_files(self):
         path = self.file("my.json", "{}")

@@ -3,6 +3,7 @@
 import json
 import os
 import pathlib
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -10,6 +11,7 @@ import unittest
 
 IS_WINDOWS = os.name != "posix" or os.environ.get("CLUICONFIG_SYSTEM") == "Windows"
 PROGRAM = ""
+COMPLETION = pathlib.Path(__file__).resolve().parents[2] / "tools" / "cluiconfig" / "completion.bash"
 SHIPPED = pathlib.Path()  # the shipped document; its catalogue stands beside it
 
 
@@ -74,3 +76,14 @@ class TestCase(unittest.TestCase):
         result = self.run_program(*arguments, **options)
         self.assertEqual((result.returncode, result.stdout), (exit_code, ""))
         return result.stderr
+
+    def completed(self, *words):
+        """What bash offers for the last word, or None where there is no bash."""
+        bash = shutil.which("bash")
+        if bash is None:
+            self.skipTest("needs bash")
+        script = f"source '{COMPLETION}'; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _cluiconfig; printf '%s\\n' \"${{COMPREPLY[@]}}\""
+        result = subprocess.run([bash, "-c", script, "bash", PROGRAM, *words], capture_output=True, text=True,
+                                cwd=self.directory, timeout=60)
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        return result.stdout.split("\n")[:-1]

@@ -1,53 +1,49 @@
 #include <config/UIConfigTest.h>
 
-#include <utility>
+#include <config/Configuration.h>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QList<std::pair<QString, bool>> sections(UIConfig& config)
+QMap<QString, qsizetype> entries(UIConfig& config)
 {
-    const auto hasFormulas = [&](const QString& axis) { return !config.getAxisFormulaConfigByName(axis).isEmpty(); };
+    const auto formulas = [&](const QString& axis) { return config.getAxisFormulaConfigByName(axis).size(); };
     return {
-        {u"Axes combinations"_s, !config.getAxesCombinationManager().getAxesCombinations().isEmpty()},
-        {u"Representations"_s, !config.getConfigRepresentationManager().getConfigRepresentationList().isEmpty()},
-        {u"MSVUnits"_s, !config.getMSVUnitsCombinationManager().getMSVUnitsCombinationsList().isEmpty()},
-        {u"Filters"_s, !config.getSkippedTasks().isEmpty()},
+        {u"Axes combinations"_s, config.getAxesCombinationManager().getAxesCombinations().size()},
+        {u"Representations"_s, config.getConfigRepresentationManager().getConfigRepresentationList().size()},
+        {u"MSVUnits"_s, config.getMSVUnitsCombinationManager().getMSVUnitsCombinationsList().size()},
+        {u"Filters"_s, config.getSkippedTasks().size()},
         {u"Tools"_s,
-         !config.getSummaryTablePerStepColumns().isEmpty() || !config.getSummaryTablePerCycleColumns().isEmpty()
-             || !config.getSummaryTablePerLoopColumns().isEmpty()},
-        {u"Colors"_s, !config.getCustomColors().isEmpty()},
-        {u"Statistics"_s, !config.getStatsGraph().isEmpty()},
-        {u"Ragone Plot"_s, !config.getRagonePlotGraph().isEmpty()},
-        {u"Processed Data"_s, !config.getProcessedDataGraph().isEmpty()},
+         config.getSummaryTablePerStepColumns().size() + config.getSummaryTablePerCycleColumns().size()
+             + config.getSummaryTablePerLoopColumns().size()},
+        {u"Colors"_s, config.getCustomColors().size()},
+        {u"Statistics"_s, config.getStatsGraph().size()},
+        {u"Ragone Plot"_s, config.getRagonePlotGraph().size()},
+        {u"Processed Data"_s, config.getProcessedDataGraph().size()},
         {u"Recipe"_s,
-         !config.getRecipeGraphCombinationsList().isEmpty() || !config.getRecipeToolsTablesList().isEmpty()
-             || !config.getRecipeToolsGraphsList().isEmpty()},
-        {u"Process Formula"_s, hasFormulas(u"X"_s) || hasFormulas(u"Y1"_s) || hasFormulas(u"Y2"_s)},
-        {u"dQ_dU"_s, !config.getDQdUColumns().isEmpty() || !config.getDQdUItem().getTitle().isEmpty()},
-        {u"Debug"_s, config.importDialogShowClIds() || config.saveImportedParquetFiles() || config.saveZFitInputData()},
+         config.getRecipeGraphCombinationsList().size() + config.getRecipeToolsTablesList().size()
+             + config.getRecipeToolsGraphsList().size()},
+        {u"Process Formula"_s, formulas(u"X"_s) + formulas(u"Y1"_s) + formulas(u"Y2"_s)},
+        {u"dQ_dU"_s, config.getDQdUColumns().size()},
+        {u"Debug"_s,
+         qsizetype{config.importDialogShowClIds()} + qsizetype{config.saveImportedParquetFiles()}
+             + qsizetype{config.saveZFitInputData()}},
     };
 }
 
-} // namespace
-
 QStringList filledSections(UIConfig& config)
 {
-    QStringList filled;
-    for (const auto& [key, isFilled] : sections(config)) {
-        if (isFilled) {
-            filled.append(key);
-        }
-    }
+    const QMap<QString, qsizetype> held = entries(config);
+    QStringList filled = allSections();
+    filled.removeIf([&](const QString& key) { return held.value(key) == 0; });
     return filled;
 }
 
 QStringList allSections()
 {
-    QStringList all;
-    for (const auto& section : sections(lumo::tools::Singleton<UIConfig>::instance())) {
-        all.append(section.first);
+    QStringList keys;
+    const QList<uiconfig::Section> sections = uiconfig::sections();
+    for (const uiconfig::Section& section : sections) {
+        keys.append(section.key);
     }
-    return all;
+    return keys;
 }

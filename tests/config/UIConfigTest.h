@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 #include <QJsonObject>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -73,8 +74,11 @@ private:
     }
 };
 
-/// The keys of the document's sections of which \p config holds anything, in the order in which they are read.
+/// How much \p config holds of every section that a document has: entries of its lists, and switches that are on.
+QMap<QString, qsizetype> entries(UIConfig& config);
+
+/// The keys of the sections of which \p config holds anything, in the order in which they are read.
 QStringList filledSections(UIConfig& config);
 
-/// The keys of all thirteen sections, in the order in which they are read.
+/// The keys of all sections, in the order in which they are read.
 QStringList allSections();

@@ -1,10 +1,10 @@
 #include <support/TestCatalogue.h>
 
 #include <archive/ArchiveContext.h>
+#include <base/Singleton.h>
 #include <batterydata/ClConfigDataArray.h>
 #include <batterydata/ClConfigDataArrayManager.h>
 #include <batterydata/RawDataCollection.h>
-#include <config/Singleton.h>
 
 #include <gtest/gtest.h>
 

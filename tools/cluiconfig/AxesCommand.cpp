@@ -4,8 +4,9 @@
 #include "NearMiss.h"
 #include "Output.h"
 
-#include <config/ConfigRepresentation.h>
-#include <config/UIConfig.h>
+#include <axes/AxesCombinationManager.h>
+#include <base/DocumentKeys.h>
+#include <config/Configuration.h>
 
 #include <QFileInfo>
 
@@ -62,7 +63,7 @@ Question questionFrom(const AxesOptions& options)
 
 QList<Table> xAxes(const AxesCombinationManager& manager)
 {
-    Table table{u"X axes"_s, {u"X"_s, u"Y axes against it"_s}, {}};
+    Table table{.name = u"X axes"_s, .columns = {u"X"_s, u"Y axes against it"_s}};
     const QStringList names = manager.getXAxesNames();
     for (const QString& x : names) {
         table.rows.append({x, manager.getYAxesNames(x).size()});
@@ -72,7 +73,7 @@ QList<Table> xAxes(const AxesCombinationManager& manager)
 
 QList<Table> yAxes(const AxesCombinationManager& manager, const QString& x)
 {
-    Table table{u"Y axes against %1"_s.arg(x), {u"Y"_s}, {}};
+    Table table{.name = u"Y axes against %1"_s.arg(x), .columns = {u"Y"_s}};
     const QStringList names = manager.getYAxesNames(x);
     if (names.isEmpty()) {
         failUnknown(u"No axes combination has \"%1\" on its X axis."_s.arg(x), x, manager.getXAxesNames());
@@ -83,9 +84,9 @@ QList<Table> yAxes(const AxesCombinationManager& manager, const QString& x)
     return {table};
 }
 
-QList<Table> pair(const UIConfig& config, const QString& x, const QString& y)
+QList<Table> pair(const AxesCombinationManager& manager, const QList<ConfigRepresentation>& all, const QString& x,
+                  const QString& y)
 {
-    const AxesCombinationManager& manager = config.getAxesCombinationManager();
     const QList<Table> against = yAxes(manager, x);
     const AxesCombination taken = manager.getAxesCombination(x, y);
     if (!taken.isValid()) {
@@ -93,9 +94,9 @@ QList<Table> pair(const UIConfig& config, const QString& x, const QString& y)
                     manager.getYAxesNames(x));
     }
 
-    Table combinations{u"Combinations"_s,
-                       {u"X"_s, u"Y"_s, u"Category"_s, u"X scale"_s, u"Y scale"_s, u"Orthonormal"_s, u"Taken"_s},
-                       {}};
+    Table combinations{
+        .name = u"Combinations"_s,
+        .columns = {u"X"_s, u"Y"_s, u"Category"_s, u"X scale"_s, u"Y scale"_s, u"Orthonormal"_s, u"Taken"_s}};
     const QList<AxesCombination> candidates = manager.getAxesCombinations(x);
     for (AxesCombination combination : candidates) {
         if (combination.getConfigY().getName() == y) {
@@ -106,12 +107,11 @@ QList<Table> pair(const UIConfig& config, const QString& x, const QString& y)
         }
     }
 
-    Table representations{u"Representations"_s, {u"Name"_s, u"Has Y as"_s, u"Default"_s}, {}};
-    const auto all = config.getConfigRepresentationManager().getConfigRepresentationList();
-    for (const ConfigRepresentation* representation : all) {
-        if (representation->x() == x && (representation->y1() == y || representation->y2() == y)) {
+    Table representations{.name = uiconfig::keys::Representations, .columns = {u"Name"_s, u"Has Y as"_s, u"Default"_s}};
+    for (const ConfigRepresentation& representation : all) {
+        if (representation.x() == x && (representation.y1() == y || representation.y2() == y)) {
             representations.rows.append(
-                {representation->name(), representation->y1() == y ? u"Y1"_s : u"Y2"_s, representation->isDefault()});
+                {representation.name(), representation.y1() == y ? u"Y1"_s : u"Y2"_s, representation.isDefault()});
         }
     }
     return {combinations, representations};
@@ -119,13 +119,14 @@ QList<Table> pair(const UIConfig& config, const QString& x, const QString& y)
 
 void axes(const AxesOptions& options)
 {
-    auto& config = lumo::tools::Singleton<UIConfig>::instance();
     const Question question = questionFrom(options);
-    loadDocument(question.document, config);
-    const AxesCombinationManager& manager = config.getAxesCombinationManager();
-    print(options.format(question.x.isEmpty()       ? xAxes(manager)
-                             : question.y.isEmpty() ? yAxes(manager, question.x)
-                                                    : pair(config, question.x, question.y)));
+    const uiconfig::Configuration configuration = loadDocument(question.document);
+    AxesCombinationManager manager;
+    manager.appendAll(configuration.axesCombinations);
+    print(options.format(question.x.isEmpty() ? xAxes(manager)
+                             : question.y.isEmpty()
+                             ? yAxes(manager, question.x)
+                             : pair(manager, configuration.representations, question.x, question.y)));
 }
 
 } // namespace

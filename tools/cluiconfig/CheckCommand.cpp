@@ -1,8 +1,8 @@
 #include "Commands.h"
 #include "Output.h"
-#include "check/Check.h"
-#include "check/Reports.h"
-#include "check/Suggest.h"
+#include <check/Check.h>
+#include <check/Reports.h>
+#include <check/Suggest.h>
 
 #include <algorithm>
 #include <memory>

@@ -1,12 +1,11 @@
 #include "Commands.h"
 #include "DocumentFile.h"
+#include "DocumentTables.h"
 #include "Output.h"
 #include "TableDifference.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QProcess>
 
 #include <memory>
 #include <string>
@@ -24,46 +23,31 @@ struct DiffOptions
     std::string format = "text";
 };
 
-/// The tables of the document \p path by their names, made by a process of its own: a process has one configuration,
-/// which loads on top of what is there, and nothing empties it altogether. Ends the command with ExitCannotRun when the
-/// document cannot be shown.
-QJsonObject shownTables(const std::string& path, const std::string& catalogue)
+QList<Table> shownTables(const QString& document)
 {
-    const QString document = QString::fromStdString(path);
-    QStringList arguments;
-    if (!catalogue.empty()) {
-        arguments << u"--catalogue"_s << QString::fromStdString(catalogue);
-    }
-    arguments << u"show"_s << u"--format"_s << u"json"_s << u"--"_s << document;
-    QProcess process;
-    process.start(QCoreApplication::applicationFilePath(), arguments, QIODevice::ReadOnly);
+    uiconfig::Configuration configuration;
     QString error;
-    if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit) {
-        error = process.errorString();
-    } else if (process.exitCode() != 0) {
-        error = QString::fromUtf8(process.readAllStandardError()).trimmed();
-    }
-    if (!error.isNull()) {
+    if (!readDocument(document, configuration, error)) {
         fail(u"Cannot compare \"%1\": %2"_s.arg(document, error).toStdString());
     }
-    return QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+    return documentTables(configuration);
 }
 
-void diff(const DiffOptions& options, const std::string& catalogue)
+void diff(const DiffOptions& options)
 {
-    requireReadableFile(QString::fromStdString(options.before));
-    requireReadableFile(QString::fromStdString(options.after));
-    const QJsonObject before = shownTables(options.before, catalogue);
-    const QJsonObject after = shownTables(options.after, catalogue);
-
+    const QString old = QString::fromStdString(options.before);
+    const QString changed = QString::fromStdString(options.after);
+    requireReadableFile(old);
+    requireReadableFile(changed);
+    const QList<Table> before = shownTables(old);
+    const QList<Table> after = shownTables(changed);
     QStringList texts;
     QJsonArray tables;
-    for (const TableIdentity& identity : tableIdentities()) {
-        const TableDifference found =
-            difference(identity, before.value(identity.table).toArray(), after.value(identity.table).toArray());
+    for (qsizetype i = 0; i < before.size(); ++i) {
+        const TableDifference found = difference(before.at(i), after.at(i));
         if (!found.isEmpty()) {
-            texts.append(toText(identity, found));
-            tables.append(toJson(identity, found));
+            texts.append(toText(before.at(i), found));
+            tables.append(toJson(before.at(i), found));
         }
     }
     print(options.format == "json" ? QJsonDocument(tables).toJson() : texts.join(u'\n').toUtf8());
@@ -97,10 +81,7 @@ Examples:
   cluiconfig diff old.json new.json --format json    an array with an object for each table that differs
 
 Exit code: 0 when both give the same, 1 when not, 2 when one cannot be read or would be refused.)");
-    command->callback([options, &program] {
-        const CLI::Option* catalogue = program.get_option("--catalogue");
-        diff(*options, catalogue->count() > 0 ? catalogue->as<std::string>() : std::string());
-    });
+    command->callback([options] { diff(*options); });
 }
 
 } // namespace cluiconfig

@@ -2,7 +2,8 @@
 
 #include "Output.h"
 
-#include <config/UIConfig.h>
+#include <base/Singleton.h>
+#include <batterydata/RawDataCollection.h>
 #include <datastorage/JsonUtils.h>
 
 #include <QFile>
@@ -41,23 +42,28 @@ void requireReadableFile(const QString& path)
     }
 }
 
-void loadDocument(const QString& path, UIConfig& config)
+bool readDocument(const QString& path, uiconfig::Configuration& configuration, QString& error)
 {
     refusePipe(path);
-    QString error;
-    if (!config.readUIConfiguration(path, error)) {
-        fail(error.toStdString(), ExitRefused);
-    }
-}
-
-QJsonObject openDocument(const QString& path)
-{
-    QString error;
     QJsonObject root;
     if (!cl::datastorage::JsonUtils::openJsonDocument(path, error, root)) {
+        return false;
+    }
+    uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
+    uiconfig::readConfiguration(
+        root, lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration(),
+        configuration, refusals);
+    return refusals.isEmpty(error);
+}
+
+uiconfig::Configuration loadDocument(const QString& path)
+{
+    uiconfig::Configuration configuration;
+    QString error;
+    if (!readDocument(path, configuration, error)) {
         fail(error.toStdString(), ExitRefused);
     }
-    return root;
+    return configuration;
 }
 
 } // namespace cluiconfig

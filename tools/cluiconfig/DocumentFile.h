@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QJsonObject>
-#include <QString>
+#include <config/Configuration.h>
 
-class UIConfig;
+#include <QString>
 
 namespace cluiconfig {
 
@@ -14,16 +13,11 @@ constexpr auto ShippedDocument = ":/cluiconfig/UIConfig.json";
 /// is not a regular file is refused without being opened: reading a pipe may never end.
 void requireReadableFile(const QString& path);
 
-/// Loads \p path into \p config as the application does. Ends the command with the loader's sentence when it does not
-/// load (ExitRefused), and without asking it for a pipe or a device (ExitCannotRun).
-///
-/// REQUIRES: nothing has been loaded into \p config before.
-void loadDocument(const QString& path, UIConfig& config);
+/// Reads what the document \p path gives the application; true on success, otherwise false with the loader's sentence
+/// in \p error. Ends the command with ExitCannotRun for a pipe or a device, without reading it.
+bool readDocument(const QString& path, uiconfig::Configuration& configuration, QString& error);
 
-/// The document itself, for what the configuration does not tell. Ends the command when it cannot be opened
-/// (ExitRefused).
-///
-/// REQUIRES: loadDocument() has loaded it.
-QJsonObject openDocument(const QString& path);
+/// The same, but ends the command with the loader's sentence when the document does not load (ExitRefused).
+uiconfig::Configuration loadDocument(const QString& path);
 
 } // namespace cluiconfig

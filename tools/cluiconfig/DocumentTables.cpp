@@ -1,29 +1,32 @@
 #include "DocumentTables.h"
 
+#include <axes/AxesCombinationManager.h>
+#include <base/DocumentKeys.h>
 #include <batterydata/ClConfigDataArray.h>
-#include <config/ConfigRepresentation.h>
-#include <config/MSVUnitsCombination.h>
-#include <config/UIConfig.h>
+#include <config/Configuration.h>
 #include <datastorage/Converter.h>
 
 #include <QJsonArray>
 
-#include <utility>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
-using cl::batterydata::ClConfigDataArray;
 using cl::datastorage::Converter;
+using uiconfig::Configuration;
+namespace keys = uiconfig::keys;
 
 namespace cluiconfig {
 
 namespace {
 
-Table axesTable(const UIConfig& config)
+Table axesCombinations(const Configuration& configuration)
 {
-    Table table{
-        u"Axes combinations"_s, {u"X"_s, u"Category"_s, u"X scale"_s, u"Y scale"_s, u"Orthonormal"_s, u"Y"_s}, {}, 5};
-    const AxesCombinationManager& manager = config.getAxesCombinationManager();
-    for (AxesCombination combination : manager.getAxesCombinations()) {
+    Table table{.name = keys::AxesCombinations,
+                .columns = {u"X"_s, u"Category"_s, u"X scale"_s, u"Y scale"_s, u"Orthonormal"_s, u"Y"_s},
+                .section = keys::AxesCombinations,
+                .keys = {u"X"_s, u"Y"_s, u"Category"_s},
+                .joinedColumn = 5};
+    for (AxesCombination combination : configuration.axesCombinations) {
         table.rows.append({combination.getConfigX().getName(), combination.getConfigX().getCategory(),
                            scaleText(combination.getDefaultScaleX()), scaleText(combination.getDefaultScaleY()),
                            combination.isOrthonormal(), combination.getConfigY().getName()});
@@ -31,47 +34,60 @@ Table axesTable(const UIConfig& config)
     return table;
 }
 
-Table representationsTable(const UIConfig& config)
+Table representations(const Configuration& configuration)
 {
-    Table table{u"Representations"_s,
-                {u"Name"_s, u"X"_s, u"Y1"_s, u"Y2"_s, u"Category"_s, u"Default"_s, u"Can be drawn"_s},
-                {}};
-    const auto representations = config.getConfigRepresentationManager().getConfigRepresentationList();
-    for (const ConfigRepresentation* representation : representations) {
-        table.rows.append({representation->name(), representation->x(), representation->y1(), representation->y2(),
-                           representation->category(), representation->isDefault(),
-                           config.getAxesCombinationManager().isRepresentationValid(representation)});
+    Table table{.name = keys::Representations,
+                .columns = {u"Name"_s, u"X"_s, u"Y1"_s, u"Y2"_s, u"Category"_s, u"Default"_s, u"Can be drawn"_s},
+                .section = keys::Representations,
+                .keys = {u"Name"_s},
+                .names = {u"Name"_s}};
+    AxesCombinationManager axes;
+    axes.appendAll(configuration.axesCombinations);
+    for (const ConfigRepresentation& representation : configuration.representations) {
+        table.rows.append({representation.name(), representation.x(), representation.y1(), representation.y2(),
+                           representation.category(), representation.isDefault(),
+                           axes.isRepresentationValid(&representation)});
     }
     return table;
 }
 
-Table unitsTable(UIConfig& config)
+Table msvUnits(const Configuration& configuration)
 {
-    Table table{u"Compound units"_s, {u"Physical parameter"_s, u"Operator"_s, u"With"_s}, {}};
-    for (const MSVUnitsCombination* combination :
-         config.getMSVUnitsCombinationManager().getMSVUnitsCombinationsList()) {
+    Table table{.name = u"Compound units"_s,
+                .columns = {u"Physical parameter"_s, u"Operator"_s, u"With"_s},
+                .section = keys::MSVUnits,
+                .keys = {u"Physical parameter"_s, u"Operator"_s}};
+    for (const MSVUnitsCombination& combination : configuration.msvUnits) {
         QJsonArray parameters;
-        for (const auto parameter : combination->getMultiParamsList()) {
+        for (const auto parameter : combination.getMultiParamsList()) {
             parameters.append(Converter::toString(parameter));
         }
-        table.rows.append({Converter::toString(combination->getPhysicalParameter()),
-                           Converter::toString(combination->getOperator()), parameters});
+        table.rows.append({Converter::toString(combination.getPhysicalParameter()),
+                           Converter::toString(combination.getOperator()), parameters});
     }
     return table;
 }
 
-Table filtersTable(const UIConfig& config)
+Table filters(const Configuration& configuration)
 {
-    Table table{u"Skipped tasks"_s, {u"Task"_s}, {}};
-    for (const QString& task : config.getSkippedTasks()) {
+    Table table{.name = u"Skipped tasks"_s, .columns = {u"Task"_s}, .section = keys::Filters, .keys = {u"Task"_s}};
+    for (const QString& task : configuration.skippedTasks) {
         table.rows.append({task});
     }
     return table;
 }
 
-void appendColumns(Table& table, const QString& kind, const QList<ClConfigDataArray*>& columns)
+Table columnsTable(const QString& name, const QString& section)
 {
-    for (const ClConfigDataArray* column : columns) {
+    return {.name = name,
+            .columns = {u"Table"_s, u"Category"_s, u"Column"_s, u"Unit"_s},
+            .section = section,
+            .keys = {u"Table"_s, u"Category"_s, u"Column"_s}};
+}
+
+void appendColumns(Table& table, const QString& kind, const uiconfig::Columns& columns)
+{
+    for (const auto* column : columns) {
         if (column == nullptr) {
             table.rows.append({kind, QJsonValue::Null, QJsonValue::Null, QJsonValue::Null});
         } else {
@@ -81,47 +97,54 @@ void appendColumns(Table& table, const QString& kind, const QList<ClConfigDataAr
     }
 }
 
-QStringList columnHeadings()
+Table tools(const Configuration& configuration)
 {
-    return {u"Table"_s, u"Category"_s, u"Column"_s, u"Unit"_s};
-}
-
-Table summaryTable(const UIConfig& config)
-{
-    Table table{u"Summary table columns"_s, columnHeadings(), {}};
-    appendColumns(table, u"Per step"_s, config.getSummaryTablePerStepColumns());
-    appendColumns(table, u"Per cycle"_s, config.getSummaryTablePerCycleColumns());
-    appendColumns(table, u"Per loop"_s, config.getSummaryTablePerLoopColumns());
+    Table table = columnsTable(u"Summary table columns"_s, keys::Tools);
+    appendColumns(table, keys::PerStep, configuration.summaryTables.perStep);
+    appendColumns(table, keys::PerCycle, configuration.summaryTables.perCycle);
+    appendColumns(table, keys::PerLoop, configuration.summaryTables.perLoop);
     return table;
 }
 
-Table paletteTable(const UIConfig& config)
+Table palette(const Configuration& configuration)
 {
-    Table table{u"Palette"_s, {u"Name"_s, u"Colour"_s}, {}};
-    table.endsInColors = true;
-    for (const auto& [name, color] : config.getCustomColors()) {
+    Table table{.name = u"Palette"_s,
+                .columns = {u"Name"_s, u"Colour"_s},
+                .section = keys::Colors,
+                .keys = {u"Name"_s},
+                .names = {u"Name"_s},
+                .endsInColors = true};
+    for (const auto& [name, color] : configuration.colors.custom) {
         table.rows.append({name, color.isValid() ? color.name() : u"(invalid)"_s});
     }
     return table;
 }
 
-Table defaultColorsTable(const UIConfig& config, const QJsonObject& root)
+Table defaultColors(const Configuration& configuration)
 {
-    Table table{u"Default colours"_s, {u"Element"_s, u"Colour"_s}, {}};
-    table.endsInColors = true;
-    const QStringList elements = root.value("Colors"_L1).toObject().value("Default colors"_L1).toObject().keys();
-    for (const QString& element : elements) {
-        QColor color;
-        const bool found = config.getDefaultColor(element, color);
-        table.rows.append({element, found ? QJsonValue(color.name()) : QJsonValue(QJsonValue::Null)});
+    Table table{.name = u"Default colours"_s,
+                .columns = {u"Element"_s, u"Colour"_s},
+                .section = keys::Colors,
+                .keys = {u"Element"_s},
+                .endsInColors = true};
+    const uiconfig::Colors& colors = configuration.colors;
+    for (auto it = colors.defaults.begin(); it != colors.defaults.end(); ++it) {
+        const auto found = std::find_if(colors.custom.begin(), colors.custom.end(),
+                                        [&](const auto& custom) { return custom.first == it.value(); });
+        table.rows.append(
+            {it.key(), found == colors.custom.end() ? QJsonValue(QJsonValue::Null) : found->second.name()});
     }
     return table;
 }
 
 template <typename Graph>
-Table curvesTable(const QString& name, const QList<Graph>& graphs)
+Table curves(const QString& name, const QString& section, const QList<Graph>& graphs)
 {
-    Table table{name, {u"Graph"_s, u"Curve"_s, u"X"_s, u"Y"_s, u"Category"_s, u"Type"_s}, {}};
+    Table table{.name = name,
+                .columns = {u"Graph"_s, u"Curve"_s, u"X"_s, u"Y"_s, u"Category"_s, u"Type"_s},
+                .section = section,
+                .keys = {u"Graph"_s, u"Curve"_s},
+                .names = {u"Graph"_s, u"Curve"_s}};
     for (const Graph& graph : graphs) {
         if (graph.getGraphItemsList().isEmpty()) {
             table.rows.append({graph.getTitle(), QString(), QString(), QString(), QString(), QString()});
@@ -134,88 +157,81 @@ Table curvesTable(const QString& name, const QList<Graph>& graphs)
     return table;
 }
 
-Table processedDataTable(const UIConfig& config)
+Table processedData(const Configuration& configuration)
 {
-    Table table{
-        u"Processed-data graphs"_s, {u"Graph"_s, u"X"_s, u"Y1"_s, u"Y2"_s, u"Category"_s, u"Processed Y"_s}, {}};
-    for (const ProcessedDataItem& graph : config.getProcessedDataGraph()) {
+    Table table{.name = u"Processed-data graphs"_s,
+                .columns = {u"Graph"_s, u"X"_s, u"Y1"_s, u"Y2"_s, u"Category"_s, u"Processed Y"_s},
+                .section = keys::ProcessedData,
+                .keys = {u"Graph"_s},
+                .names = {u"Graph"_s}};
+    for (const ProcessedDataItem& graph : configuration.processedData) {
         table.rows.append({graph.getTitle(), graph.getStreamX(), graph.getStreamY1(), graph.getStreamY2(),
                            graph.getCategory(), QJsonArray::fromStringList(graph.getProcessedStreamsY())});
     }
     return table;
 }
 
-/// How many of the five parameter keys of a recipe entry hold a text: as many parameters has the item made from it.
-int parameterCount(const QJsonObject& entry)
+Table recipe(const Configuration& configuration)
 {
-    int count = 0;
-    for (int number = 1; number <= 5; ++number) {
-        count += entry.value(u"Param"_s + QString::number(number)).isString() ? 1 : 0;
+    Table table{.name = u"Recipe entries"_s,
+                .columns = {u"Command"_s, u"Title"_s, u"Parameters"_s},
+                .section = keys::Recipe,
+                .keys = {u"Command"_s, u"Title"_s},
+                .names = {u"Title"_s}};
+    const uiconfig::Recipe& recipe = configuration.recipe;
+    for (const auto* entries : {&recipe.graphCombinations, &recipe.toolsTables, &recipe.toolsGraphs}) {
+        for (const uiconfig::RecipeEntry& entry : *entries) {
+            table.rows.append({entry.command, entry.title, QJsonArray::fromStringList(entry.parameters)});
+        }
     }
-    return count;
-}
-
-Table recipeTable(const UIConfig& config, const QJsonObject& root)
-{
-    Table table{u"Recipe entries"_s, {u"Command"_s, u"Title"_s, u"Parameters"_s}, {}};
-    const QJsonObject recipe = root.value("Recipe"_L1).toObject();
-    const auto append = [&](const QList<RecipeConfigItem>& items, std::initializer_list<QString> commands) {
-        QJsonArray entries;
-        for (const QString& command : commands) {
-            const QJsonArray group = recipe.value(command).toArray();
-            for (const auto& entry : group) {
-                entries.append(entry);
-            }
-        }
-        for (qsizetype i = 0; i < items.size(); ++i) {
-            QJsonArray parameters;
-            for (int index = 0; index < parameterCount(entries.at(i).toObject()); ++index) {
-                parameters.append(items.at(i).getParameter(index));
-            }
-            table.rows.append({items.at(i).getType(), items.at(i).getUITitle(), parameters});
-        }
-    };
-    append(config.getRecipeGraphCombinationsList(), {UIConfig::graphCommand()});
-    append(config.getRecipeToolsTablesList(), {UIConfig::toolSummaryCommand()});
-    append(config.getRecipeToolsGraphsList(),
-           {UIConfig::toolStatisticsCommand(), UIConfig::toolProcessedDataCommand()});
     return table;
 }
 
-Table formulasTable(const UIConfig& config)
+Table processFormulas(const Configuration& configuration)
 {
-    Table table{u"Process formulas"_s, {u"Axis"_s, u"Displayed"_s, u"Compiled"_s}, {}};
-    for (const QString& axis : {u"X"_s, u"Y1"_s, u"Y2"_s}) {
-        const auto formulas = config.getAxisFormulaConfigByName(axis);
+    Table table{.name = u"Process formulas"_s,
+                .columns = {u"Axis"_s, u"Displayed"_s, u"Compiled"_s},
+                .section = keys::ProcessFormula,
+                .keys = {u"Axis"_s, u"Displayed"_s},
+                .names = {u"Displayed"_s}};
+    const auto append = [&](const QString& axis, const uiconfig::Formulas& formulas) {
         for (const auto& [displayed, compiled] : formulas) {
             table.rows.append({axis, displayed, compiled});
         }
+    };
+    append(keys::X, configuration.processFormulas.x);
+    append(keys::Y1, configuration.processFormulas.y1);
+    append(keys::Y2, configuration.processFormulas.y2);
+    return table;
+}
+
+Table dQdUColumns(const Configuration& configuration)
+{
+    Table table = columnsTable(u"dQ/dU columns"_s, keys::DQdU);
+    appendColumns(table, u"dQ/dU"_s, configuration.dQdU.columns);
+    return table;
+}
+
+Table dQdUGraph(const Configuration& configuration)
+{
+    Table table{
+        .name = u"dQ/dU graph"_s, .columns = {u"Graph"_s, u"X"_s, u"Y1"_s, u"Category"_s}, .section = keys::DQdU};
+    if (const auto& graph = configuration.dQdU.graph) {
+        table.rows.append({graph->getTitle(), graph->getStreamX(), graph->getStreamY1(), graph->getCategory()});
     }
     return table;
 }
 
-Table dQdUColumnsTable(const UIConfig& config)
+Table debug(const Configuration& configuration)
 {
-    Table table{u"dQ/dU columns"_s, columnHeadings(), {}};
-    appendColumns(table, u"dQ/dU"_s, config.getDQdUColumns());
-    return table;
-}
-
-Table dQdUGraphTable(const UIConfig& config)
-{
-    const DQdUAnalysisItem& graph = config.getDQdUItem();
-    return {u"dQ/dU graph"_s,
-            {u"Graph"_s, u"X"_s, u"Y1"_s, u"Category"_s},
-            {{graph.getTitle(), graph.getStreamX(), graph.getStreamY1(), graph.getCategory()}}};
-}
-
-Table debugTable(const UIConfig& config)
-{
-    return {u"Debug switches"_s,
-            {u"Switch"_s, u"On"_s},
-            {{u"Identifiers in the import dialog"_s, config.importDialogShowClIds()},
-             {u"Keep imported Parquet files"_s, config.saveImportedParquetFiles()},
-             {u"Keep input data of impedance fits"_s, config.saveZFitInputData()}}};
+    const uiconfig::DebugFlags flags = configuration.debugFlags.value_or(uiconfig::DebugFlags());
+    return {.name = u"Debug switches"_s,
+            .columns = {u"Switch"_s, u"On"_s},
+            .rows = {{u"Identifiers in the import dialog"_s, flags.importDialogShowClIds},
+                     {u"Keep imported Parquet files"_s, flags.saveImportedParquetFiles},
+                     {u"Keep input data of impedance fits"_s, flags.saveZFitInputData}},
+            .section = keys::Debug,
+            .keys = {u"Switch"_s}};
 }
 
 } // namespace
@@ -225,29 +241,25 @@ QString scaleText(QCPAxis::ScaleType scale)
     return scale == QCPAxis::stLinear ? u"linear"_s : u"logarithmic"_s;
 }
 
-QList<Table> documentTables(UIConfig& config, const QJsonObject& root)
+QList<Table> documentTables(const Configuration& configuration)
 {
-    QList<Table> tables;
-    const auto append = [&tables](QLatin1StringView section, Table table) {
-        table.section = section;
-        tables.append(std::move(table));
+    return {
+        axesCombinations(configuration),
+        representations(configuration),
+        msvUnits(configuration),
+        filters(configuration),
+        tools(configuration),
+        palette(configuration),
+        defaultColors(configuration),
+        curves(u"Statistics graphs"_s, keys::Statistics, configuration.statistics),
+        curves(u"Ragone plots"_s, keys::RagonePlot, configuration.ragonePlots),
+        processedData(configuration),
+        recipe(configuration),
+        processFormulas(configuration),
+        dQdUColumns(configuration),
+        dQdUGraph(configuration),
+        debug(configuration),
     };
-    append("Axes combinations"_L1, axesTable(config));
-    append("Representations"_L1, representationsTable(config));
-    append("MSVUnits"_L1, unitsTable(config));
-    append("Filters"_L1, filtersTable(config));
-    append("Tools"_L1, summaryTable(config));
-    append("Colors"_L1, paletteTable(config));
-    append("Colors"_L1, defaultColorsTable(config, root));
-    append("Statistics"_L1, curvesTable(u"Statistics graphs"_s, config.getStatsGraph()));
-    append("Ragone Plot"_L1, curvesTable(u"Ragone plots"_s, config.getRagonePlotGraph()));
-    append("Processed Data"_L1, processedDataTable(config));
-    append("Recipe"_L1, recipeTable(config, root));
-    append("Process Formula"_L1, formulasTable(config));
-    append("dQ_dU"_L1, dQdUColumnsTable(config));
-    append("dQ_dU"_L1, dQdUGraphTable(config));
-    append("Debug"_L1, debugTable(config));
-    return tables;
 }
 
 } // namespace cluiconfig

@@ -5,12 +5,8 @@
 
 namespace cluiconfig {
 
-/// The names in \p known, at most three and best first, that somebody who wrote \p name may have meant: those at a
-/// small edit distance, upper and lower case being the same; where there is none, those that contain the letters in
-/// their order.
-QStringList nearMisses(const QString& name, const QStringList& known);
-
-/// ` Did you mean "A" or "B"?`, to follow a sentence; empty when nothing in \p known is near \p name.
+/// ` Did you mean "A"?` for a name that somebody typed on the command line: with what the check would suggest or, where
+/// nothing is near, with up to three names that contain the letters in their order. Empty when there is none either.
 QString didYouMean(const QString& name, const QStringList& known);
 
 } // namespace cluiconfig

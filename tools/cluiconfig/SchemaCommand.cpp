@@ -1,6 +1,6 @@
 #include "Commands.h"
 #include "Output.h"
-#include "check/Structure.h"
+#include <check/Schema.h>
 
 namespace cluiconfig {
 

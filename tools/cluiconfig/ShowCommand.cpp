@@ -4,7 +4,9 @@
 #include "NearMiss.h"
 #include "Output.h"
 
-#include <config/UIConfig.h>
+#include <config/Configuration.h>
+
+#include <QJsonArray>
 
 #include <memory>
 #include <string>
@@ -19,6 +21,7 @@ struct ShowOptions
 {
     std::string document = ShippedDocument;
     std::string section;
+    bool listsSections = false;
     TableFormat format;
 };
 
@@ -44,12 +47,32 @@ QList<Table> chosen(const QList<Table>& tables, const QString& name)
     return found;
 }
 
+/// The sections of the document, and where to find what they give.
+Table sectionsTable()
+{
+    Table table{.name = u"Sections"_s,
+                .columns = {u"Section"_s, u"Type"_s, u"Required"_s, u"When it is missing"_s, u"Tables"_s}};
+    const QList<Table> tables = documentTables({});
+    for (const uiconfig::Section& section : uiconfig::sections()) {
+        QJsonArray headings;
+        for (const Table& each : tables) {
+            if (each.section == section.key) {
+                headings.append(each.name);
+            }
+        }
+        table.rows.append({section.key, section.type == uiconfig::Section::Type::Array ? u"array"_s : u"object"_s,
+                           section.isRequired(), section.missing, headings});
+    }
+    return table;
+}
+
 void show(const ShowOptions& options)
 {
-    auto& config = lumo::tools::Singleton<UIConfig>::instance();
-    const QString path = QString::fromStdString(options.document);
-    loadDocument(path, config);
-    QList<Table> tables = documentTables(config, openDocument(path));
+    if (options.listsSections) {
+        print(options.format({sectionsTable()}));
+        return;
+    }
+    QList<Table> tables = documentTables(loadDocument(QString::fromStdString(options.document)));
     if (!options.section.empty()) {
         tables = chosen(tables, QString::fromStdString(options.section));
     }
@@ -67,6 +90,8 @@ void addShowCommand(CLI::App& program)
         ->default_str("the shipped document");
     command->add_option("--section", options->section,
                         "Print one section only: its key in the document, or the heading of one of its tables.");
+    command->add_flag("--list-sections", options->listsSections,
+                      "List the sections that a document has, and the headings of their tables.");
     options->format.addTo(*command);
     command->footer(R"(On a terminal, colours are shown beside their names unless NO_COLOR is set.
 

@@ -3,7 +3,6 @@
 #include <QColor>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 #include <algorithm>
 
@@ -79,6 +78,15 @@ QList<QStringList> textRows(const Table& table)
 
 } // namespace
 
+QJsonObject toObject(const Table& table, const QList<QJsonValue>& row)
+{
+    QJsonObject object;
+    for (qsizetype i = 0; i < row.size(); ++i) {
+        object.insert(table.columns.at(i), row.at(i));
+    }
+    return object;
+}
+
 QString toText(const Table& table, ColorDepth colors)
 {
     QList<QStringList> lines = textRows(table);
@@ -109,13 +117,9 @@ QString toText(const Table& table, ColorDepth colors)
 QByteArray toJson(const Table& table)
 {
     QByteArray lines;
-    for (const auto& values : table.rows) {
-        QJsonObject object;
-        for (qsizetype i = 0; i < values.size(); ++i) {
-            object.insert(table.columns.at(i), values.at(i));
-        }
-        lines +=
-            (lines.isEmpty() ? "\n        " : ",\n        ") + QJsonDocument(object).toJson(QJsonDocument::Compact);
+    for (const auto& row : table.rows) {
+        lines += (lines.isEmpty() ? "\n        " : ",\n        ")
+            + QJsonDocument(toObject(table, row)).toJson(QJsonDocument::Compact);
     }
     return '[' + lines + (lines.isEmpty() ? "]" : "\n    ]");
 }

@@ -3,6 +3,7 @@
 #include "Output.h"
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QJsonValue>
 #include <QList>
 #include <QString>
@@ -15,14 +16,25 @@ namespace cluiconfig {
 /// Rows of named columns: what a command shows, as aligned text for people and as JSON for programs.
 struct Table
 {
-    QString name; ///< Heading in text, key in JSON.
-    QStringList columns;
-    QList<QList<QJsonValue>> rows; ///< One value a column each.
-    /// In text, rows that stand together and differ only in this column become one, its values joined by commas.
+    QString name{}; ///< Heading in text, key in JSON.
+    QStringList columns{};
+    QList<QList<QJsonValue>> rows{}; ///< One value a column each.
+
+    // Of a table that shows a section of the document.
+
+    QString section{}; ///< The key of the section.
+    QStringList keys{}; ///< The columns by which another document's rows are recognised; none for a single row.
+    QStringList names{}; ///< Those of the keys that are mere names: a row that differs in nothing else was renamed.
+
+    // How the text looks.
+
+    /// Rows that stand together and differ only in this column become one, its values joined by commas.
     qsizetype joinedColumn = -1;
     bool endsInColors = false; ///< The last column holds names of colours, such as "#0072b2".
-    QString section = {}; ///< The key of the document's section that the rows come from; empty where there is none.
 };
+
+/// The row with the columns as keys.
+QJsonObject toObject(const Table& table, const QList<QJsonValue>& row);
 
 /// The heading with the number of rows, and the rows below it, columns aligned and separated by two blanks. Names of
 /// colours are followed by a swatch where \p colors are to be had.

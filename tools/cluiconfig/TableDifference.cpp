@@ -1,6 +1,7 @@
 #include "TableDifference.h"
 
 #include <QHash>
+#include <QJsonArray>
 
 #include <algorithm>
 #include <utility>
@@ -43,7 +44,7 @@ QString columnsText(const QStringList& columns, const QJsonObject& row)
 class Pairing
 {
 public:
-    Pairing(const TableIdentity& identity, const QJsonArray& before, const QJsonArray& after)
+    Pairing(const Table& table, const QJsonArray& before, const QJsonArray& after)
         : m_before(before)
         , m_after(after)
         , m_ofBefore(before.size(), NoRow)
@@ -54,8 +55,8 @@ public:
             m_ofBefore[i] = i;
             m_ofAfter[i] = i;
         }
-        pairEqual([&](const QJsonObject& row) { return columnsText(identity.keys, row); });
-        for (const QString& name : identity.names) {
+        pairEqual([&](const QJsonObject& row) { return columnsText(table.keys, row); });
+        for (const QString& name : table.names) {
             pairEqual([&](const QJsonObject& row) {
                 QStringList others = row.keys();
                 others.removeOne(name);
@@ -129,11 +130,11 @@ QList<qsizetype> outOfOrder(const QList<qsizetype>& places)
     return others;
 }
 
-/// The columns of \p row that \p identity does not recognise it by.
-QStringList contentColumns(const TableIdentity& identity, const QJsonObject& row)
+/// The columns of \p row that \p table does not recognise it by.
+QStringList contentColumns(const Table& table, const QJsonObject& row)
 {
     QStringList columns = row.keys();
-    columns.removeIf([&](const QString& column) { return identity.keys.contains(column); });
+    columns.removeIf([&](const QString& column) { return table.keys.contains(column); });
     return columns;
 }
 
@@ -141,6 +142,15 @@ QStringList contentColumns(const TableIdentity& identity, const QJsonObject& row
 QString line(QChar sign, const QString& row, const QString& content)
 {
     return u"  "_s + sign + u' ' + row + (row.isEmpty() || content.isEmpty() ? u""_s : u": "_s) + content + u'\n';
+}
+
+QJsonArray rowsOf(const Table& table)
+{
+    QJsonArray rows;
+    for (const auto& row : table.rows) {
+        rows.append(toObject(table, row));
+    }
+    return rows;
 }
 
 QJsonArray toArray(const QList<QJsonObject>& rows)
@@ -152,34 +162,15 @@ QJsonArray toArray(const QList<QJsonObject>& rows)
 
 } // namespace
 
-QList<TableIdentity> tableIdentities()
+TableDifference difference(const Table& tableBefore, const Table& tableAfter)
 {
-    return {
-        {u"Axes combinations"_s, {u"X"_s, u"Y"_s, u"Category"_s}, {}},
-        {u"Representations"_s, {u"Name"_s}, {u"Name"_s}},
-        {u"Compound units"_s, {u"Physical parameter"_s, u"Operator"_s}, {}},
-        {u"Skipped tasks"_s, {u"Task"_s}, {}},
-        {u"Summary table columns"_s, {u"Table"_s, u"Category"_s, u"Column"_s}, {}},
-        {u"Palette"_s, {u"Name"_s}, {u"Name"_s}},
-        {u"Default colours"_s, {u"Element"_s}, {}},
-        {u"Statistics graphs"_s, {u"Graph"_s, u"Curve"_s}, {u"Graph"_s, u"Curve"_s}},
-        {u"Ragone plots"_s, {u"Graph"_s, u"Curve"_s}, {u"Graph"_s, u"Curve"_s}},
-        {u"Processed-data graphs"_s, {u"Graph"_s}, {u"Graph"_s}},
-        {u"Recipe entries"_s, {u"Command"_s, u"Title"_s}, {u"Title"_s}},
-        {u"Process formulas"_s, {u"Axis"_s, u"Displayed"_s}, {u"Displayed"_s}},
-        {u"dQ/dU columns"_s, {u"Table"_s, u"Category"_s, u"Column"_s}, {}},
-        {u"dQ/dU graph"_s, {}, {}},
-        {u"Debug switches"_s, {u"Switch"_s}, {}},
-    };
-}
-
-TableDifference difference(const TableIdentity& identity, const QJsonArray& before, const QJsonArray& after)
-{
+    const QJsonArray before = rowsOf(tableBefore);
+    const QJsonArray after = rowsOf(tableAfter);
     TableDifference result;
     if (before == after) {
         return result;
     }
-    const Pairing pairing(identity, before, after);
+    const Pairing pairing(tableBefore, before, after);
     for (qsizetype i = 0; i < before.size(); ++i) {
         if (pairing.ofBefore().at(i) == NoRow) {
             result.lost.append(before.at(i).toObject());
@@ -209,7 +200,7 @@ TableDifference difference(const TableIdentity& identity, const QJsonArray& befo
     return result;
 }
 
-QString toText(const TableIdentity& identity, const TableDifference& difference)
+QString toText(const Table& table, const TableDifference& difference)
 {
     QStringList counts;
     const auto count = [&counts](qsizetype number, const QString& what) {
@@ -222,27 +213,27 @@ QString toText(const TableIdentity& identity, const TableDifference& difference)
     count(difference.changed.size(), u"changed"_s);
     count(difference.moved.size(), u"moved"_s);
 
-    QString text = identity.table + u": "_s + counts.join(u", "_s) + u'\n';
+    QString text = table.name + u": "_s + counts.join(u", "_s) + u'\n';
     for (const QJsonObject& row : difference.gained) {
-        text += line(u'+', columnsText(identity.keys, row), columnsText(contentColumns(identity, row), row));
+        text += line(u'+', columnsText(table.keys, row), columnsText(contentColumns(table, row), row));
     }
     for (const QJsonObject& row : difference.lost) {
-        text += line(u'-', columnsText(identity.keys, row), columnsText(contentColumns(identity, row), row));
+        text += line(u'-', columnsText(table.keys, row), columnsText(contentColumns(table, row), row));
     }
     for (const auto& [row, changes] : difference.changed) {
         QStringList parts;
         for (const auto& [column, from, to] : changes) {
             parts.append(column + u' ' + valueText(from) + u" → "_s + valueText(to));
         }
-        text += line(u'~', columnsText(identity.keys, row), parts.join(u", "_s));
+        text += line(u'~', columnsText(table.keys, row), parts.join(u", "_s));
     }
     for (const auto& [row, from, to] : difference.moved) {
-        text += line(u'>', columnsText(identity.keys, row), u"place %1 → %2"_s.arg(from).arg(to));
+        text += line(u'>', columnsText(table.keys, row), u"place %1 → %2"_s.arg(from).arg(to));
     }
     return text;
 }
 
-QJsonObject toJson(const TableIdentity& identity, const TableDifference& difference)
+QJsonObject toJson(const Table& table, const TableDifference& difference)
 {
     QJsonArray changed;
     for (const auto& [row, changes] : difference.changed) {
@@ -256,7 +247,7 @@ QJsonObject toJson(const TableIdentity& identity, const TableDifference& differe
     for (const auto& [row, from, to] : difference.moved) {
         moved.append(QJsonObject{{u"row"_s, row}, {u"from"_s, from}, {u"to"_s, to}});
     }
-    return {{u"table"_s, identity.table},
+    return {{u"table"_s, table.name},
             {u"gained"_s, toArray(difference.gained)},
             {u"lost"_s, toArray(difference.lost)},
             {u"changed"_s, changed},

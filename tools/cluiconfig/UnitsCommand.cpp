@@ -69,7 +69,7 @@ QString reasonAgainst(const UsualUnit& unit)
 
 QList<Table> parameters()
 {
-    Table table{u"Physical parameters"_s, {u"Parameter"_s, u"Units"_s, u"Shown"_s}, {}};
+    Table table{.name = u"Physical parameters"_s, .columns = {u"Parameter"_s, u"Units"_s, u"Shown"_s}};
     const QStringList names = Converter::getPhysicalParameterNames();
     for (const QString& name : names) {
         const PhysicalParameter parameter = Converter::getPhysicalParameterFromString(name);
@@ -90,7 +90,7 @@ QList<Table> unitsOf(const QString& name)
     }
     const PhysicalParameter parameter = Converter::getPhysicalParameterFromString(name);
     const QList<UsualUnit> shown = UIFilteredUnits::getFilteredUnits(parameter);
-    Table table{u"Units of %1"_s.arg(name), {u"Unit"_s, u"Shown"_s, u"Why not"_s}, {}};
+    Table table{.name = u"Units of %1"_s.arg(name), .columns = {u"Unit"_s, u"Shown"_s, u"Why not"_s}};
     const QList<UsualUnit> units = Converter::getAvailableUnits(parameter);
     for (const UsualUnit& unit : units) {
         const bool isOffered = shown.contains(unit);

@@ -1,5 +1,18 @@
 # bash completion for cluiconfig
 
+# The names of sections and tables, as the program lists them; many have blanks.
+_cluiconfig_sections() {
+    local typed=$1 name sections
+    sections=$("${COMP_WORDS[0]}" show --list-sections --format json 2>/dev/null)
+    while IFS= read -r name; do
+        case $typed in
+            [\'\"]*) [[ $name == "${typed:1}"* ]] && COMPREPLY+=("$name") ;;
+            *) [[ $name == "${typed//\\/}"* ]] && COMPREPLY+=("$(printf %q "$name")") ;;
+        esac
+    done < <(sed -n 'h; s/.*"Section":"\([^"]*\)".*/\1/p; g; s/.*"Tables":\["\([^]]*\)"\].*/\1/p' <<<"$sections" |
+        sed 's/","/\n/g' | sort -u)
+}
+
 _cluiconfig() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]}
     local everywhere="--help -h --version --catalogue"
@@ -26,8 +39,7 @@ _cluiconfig() {
             return
             ;;
         --section)
-            mapfile -t COMPREPLY < <(compgen -W "Representations MSVUnits Filters Tools Colors Palette Statistics Recipe
-                dQ_dU Debug" -- "$cur")
+            _cluiconfig_sections "$cur"
             return
             ;;
         --strategy)
@@ -43,7 +55,7 @@ _cluiconfig() {
     case $command in
         "") options=$commands ;;
         check) options="--format --strict --rule --list-rules" ;;
-        show) options="--section --format" ;;
+        show) options="--section --list-sections --format" ;;
         axes | units | diff) options="--format" ;;
         format) options="--check --in-place" ;;
         schema) options="" ;;

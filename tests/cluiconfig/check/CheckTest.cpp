@@ -1,7 +1,8 @@
 #include <check/Check.h>
-#include <check/Document.h>
-#include <check/Structure.h>
+#include <check/Schema.h>
 #include <check/Suggest.h>
+#include <check/private/Document.h>
+#include <config/UIConfig.h>
 #include <datastorage/Converter.h>
 #include <support/ConfigDocument.h>
 #include <support/Json.h>
@@ -24,15 +25,16 @@ namespace {
 
 QList<Finding> findingsInText(const QByteArray& bytes)
 {
-    return findingsIn(bytes, QJsonDocument::fromJson(bytes).object());
+    return checkDocument(bytes, QJsonDocument::fromJson(bytes).object()).findings;
 }
 
-Finding finding(Rule rule, Severity severity)
+QStringList rulesOf(const QList<Finding>& findings)
 {
-    Finding result;
-    result.rule = rule;
-    result.severity = severity;
-    return result;
+    QStringList names;
+    for (const Finding& each : findings) {
+        names.append(describe(each.rule).name);
+    }
+    return names;
 }
 
 QStringList words(const QJsonValue& list)
@@ -84,8 +86,8 @@ TEST(CheckDocument, WhatOnlyQtAcceptsMovesNothing)
     const Document document(bytes, root);
     EXPECT_THAT(document.laxPlaces(), ElementsAre(bytes.indexOf('\t'), bytes.indexOf('\\'), bytes.indexOf('.')));
     EXPECT_FALSE(document.isGivenUp());
-    EXPECT_EQ(document.root().member(u"d"_s)->offset(), bytes.indexOf('5'));
-    EXPECT_EQ(document.root().text(u"a"_s), u"1\t2"_s);
+    EXPECT_EQ(document.root().member("d"_L1)->offset(), bytes.indexOf('5'));
+    EXPECT_EQ(document.root().text("a"_L1), u"1\t2"_s);
 }
 
 TEST(CheckDocument, IsGivenUpAfterAHundredPlacesThatOnlyQtAccepts)
@@ -114,23 +116,30 @@ TEST(Check, LinesAndColumnsCountCharactersBehindAByteOrderMark)
     EXPECT_THAT(places, ElementsAre(u"/äöü 1:3"_s, u"/€ 2:3"_s));
 }
 
-TEST(Check, VerdictHasTheLastWord)
+TEST(Check, RefusalThatNoRuleExplainsIsAnErrorWithTheSentenceOfTheLoader)
 {
-    const QList<Finding> findings{finding(Rule::MissingKey, Severity::Error),
-                                  finding(Rule::EmptyText, Severity::Warning)};
-    const QList<Finding> loads = reconciled(findings, {true, {}});
-    EXPECT_EQ(loads.at(0).severity, Severity::Warning);
-    EXPECT_EQ(loads.at(1).severity, Severity::Warning);
-    EXPECT_EQ(reconciled(findings, {false, u"why"_s}).size(), 2);
-}
-
-TEST(Check, RefusalThatNoRuleExplainsIsAnErrorWithTheMessageOfTheLoader)
-{
-    const QList<Finding> findings = reconciled({finding(Rule::EmptyText, Severity::Warning)}, {false, u"The reason"_s});
-    ASSERT_EQ(findings.size(), 2);
+    // So many places break the rules of JSON that no other rule looks at anything.
+    const QByteArray bytes = "{ \"Version\": 28, \"a\": \"" + QByteArray(101, '\t') + "\" }";
+    const QList<Finding> findings = findingsInText(bytes);
     EXPECT_EQ(findings.first().rule, Rule::Refused);
     EXPECT_EQ(findings.first().severity, Severity::Error);
-    EXPECT_EQ(findings.first().message, u"The application refuses the document: The reason."_s);
+    EXPECT_EQ(findings.first().pointer, u"/Version"_s);
+    EXPECT_EQ(findings.first().message,
+              u"The application refuses the document: The format version is 28: expected 29."_s);
+}
+
+TEST(Check, DocumentsAreReadSideBySideWithoutTheProcessWideConfiguration)
+{
+    const ConfigDocumentCatalogue catalogue;
+    const auto& config = lumo::tools::Singleton<UIConfig>::instance();
+    const auto before = config.getStatsGraph().size();
+    for (int i = 0; i < 3; ++i) {
+        const QByteArray bytes = QJsonDocument(configDocument()).toJson();
+        const Result result = checkDocument(bytes, configDocument());
+        EXPECT_TRUE(result.verdict.loads);
+        EXPECT_THAT(rulesOf(result.findings), ElementsAre(u"unused-color"_s));
+    }
+    EXPECT_EQ(config.getStatsGraph().size(), before);
 }
 
 TEST(Check, AfterTwoHundredFindingsOfARuleTheOthersAreCounted)

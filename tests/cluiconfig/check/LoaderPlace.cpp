@@ -48,7 +48,7 @@ QString referencePlace(const QJsonObject& document, const QString& key, const QS
         return each.toObject().value("Name"_L1).toString() == name
             && each.toObject().value("Category"_L1).toString() == category;
     });
-    return u"/Axes combinations/%1/%2/%3(/.*)?"_s.arg(QString::number(entry), escaped(key), QString::number(reference));
+    return u"/Axes combinations/%1/%2/%3"_s.arg(QString::number(entry), escaped(key), QString::number(reference));
 }
 
 QString axesPlace(const QString& message, const QJsonObject& document)
@@ -63,11 +63,11 @@ QString axesPlace(const QString& message, const QJsonObject& document)
         return entry;
     }
     if (message == "Unexpected axes combination X"_L1) {
-        return entry + u"(/X)?"_s;
+        return entry + u"/X"_s;
     }
     return entry
-        + (message == "Unexpected axes combination default scale"_L1 ? u"(/DEFAULT_SCALE_[XY])?"_s
-                                                                     : u"(/ORTHONORMAL_AXIS)?"_s);
+        + (message == "Unexpected axes combination default scale"_L1 ? u"/DEFAULT_SCALE_[XY]"_s
+                                                                     : u"/ORTHONORMAL_AXIS"_s);
 }
 
 /// Representations have their names in the messages, except those without one.
@@ -82,7 +82,7 @@ QString representationPlace(const QString& message, const QJsonObject& document)
         return u"/Representations/%1%2"_s.arg(index).arg(rest);
     };
     if (message == "No name set for representation"_L1) {
-        return place(firstOf(all, [&](const QJsonValue& each) { return nameOf(each).isEmpty(); }), u"(/Name)?"_s);
+        return place(firstOf(all, [&](const QJsonValue& each) { return nameOf(each).isEmpty(); }), u"/Name"_s);
     }
     for (const QString& key : {u"Y1"_s, u"Y2"_s}) {
         const QString start = u"Unexpected %1 "_s.arg(key);
@@ -94,7 +94,7 @@ QString representationPlace(const QString& message, const QJsonObject& document)
     // Of several representations with the name, the message does not say which.
     const QString name = message.section(u"for representation "_s, 1);
     const auto hasName = [&](const QJsonValue& each) { return nameOf(each) == name; };
-    const QString rest = message.startsWith("X not set"_L1) ? u"(/X)?"_s : QString();
+    const QString rest = message.startsWith("X not set"_L1) ? u"/X"_s : QString();
     return std::count_if(all.begin(), all.end(), hasName) == 1 ? place(firstOf(all, hasName), rest)
                                                                : u"/Representations/\\d+"_s + rest;
 }
@@ -106,7 +106,7 @@ QString colorPlace(const QString& message, const QJsonObject& document)
         return !each.isObject() || each.toObject().value("RGB"_L1).toArray().size() != 3;
     });
     return u"/Colors/Custom colors/%1%2"_s.arg(QString::number(index),
-                                               message == "Color is not a Json object"_L1 ? QString() : u"(/RGB)?"_s);
+                                               message == "Color is not a Json object"_L1 ? QString() : u"/RGB"_s);
 }
 
 QString summaryPlace(const QJsonObject& document)
@@ -127,30 +127,27 @@ QString summaryPlace(const QJsonObject& document)
 QString expectedPlace(const QString& message, const QJsonObject& document)
 {
     const std::pair<QString, QString> sections[] = {
-        {u"Axes combinations array missing"_s, u"(/Axes combinations)?"_s},
-        {u"Representations array missing"_s, u"(/Representations)?"_s},
-        {u"Multi units combinations array missing"_s, u"(/MSVUnits)?"_s},
-        {u"Missing colors configuration node"_s, u"(/Colors)?"_s},
-        {u"Custom colors is not an array node"_s, u"/Colors(/Custom colors)?"_s},
-        {u"Default colors is not an object node"_s, u"/Colors(/Default colors)?"_s},
-        {u"Missing statistics graphs configuration node"_s, u"(/Statistics)?"_s},
-        {u"Missing Ragone Plot graphs configuration node"_s, u"(/Ragone Plot)?"_s},
-        {u"Missing recipe node"_s, u"(/Recipe)?"_s},
-        {u"GraphCommand command is not a Json array"_s, u"/Recipe(/GraphCommand)?"_s},
-        {u"ToolSummaryCommand command is not a Json array"_s, u"/Recipe(/ToolSummaryCommand)?"_s},
-        {u"ToolStatisticsCommand command is not a Json array"_s, u"/Recipe(/ToolStatisticsCommand)?"_s},
-        {u"ToolProcessedDataCommand command is not a Json array"_s, u"/Recipe(/ToolProcessedDataCommand)?"_s},
-        {u"Missing Process Formula configuration node"_s, u"(/Process Formula)?"_s},
-        {u"Missing dQ/dU node"_s, u"(/dQ_dU)?"_s},
-        {u"Missing dQ/dU table configuration node"_s, u"/dQ_dU(/Table)?"_s},
+        {u"Axes combinations array missing"_s, u"/Axes combinations"_s},
+        {u"Representations array missing"_s, u"/Representations"_s},
+        {u"Multi units combinations array missing"_s, u"/MSVUnits"_s},
+        {u"Missing colors configuration node"_s, u"/Colors"_s},
+        {u"Custom colors is not an array node"_s, u"/Colors/Custom colors"_s},
+        {u"Default colors is not an object node"_s, u"/Colors/Default colors"_s},
+        {u"Missing statistics graphs configuration node"_s, u"/Statistics"_s},
+        {u"Missing Ragone Plot graphs configuration node"_s, u"/Ragone Plot"_s},
+        {u"Missing recipe node"_s, u"/Recipe"_s},
+        {u"GraphCommand command is not a Json array"_s, u"/Recipe/GraphCommand"_s},
+        {u"ToolSummaryCommand command is not a Json array"_s, u"/Recipe/ToolSummaryCommand"_s},
+        {u"ToolStatisticsCommand command is not a Json array"_s, u"/Recipe/ToolStatisticsCommand"_s},
+        {u"ToolProcessedDataCommand command is not a Json array"_s, u"/Recipe/ToolProcessedDataCommand"_s},
+        {u"Missing Process Formula configuration node"_s, u"/Process Formula"_s},
+        {u"Missing dQ/dU node"_s, u"/dQ_dU"_s},
+        {u"Missing dQ/dU table configuration node"_s, u"/dQ_dU/Table"_s},
     };
     for (const auto& [text, place] : sections) {
         if (message == text) {
             return place;
         }
-    }
-    if (message.startsWith("The format version is missing"_L1)) {
-        return {};
     }
     if (message.startsWith("The format version"_L1)) {
         return u"/Version"_s;
@@ -158,7 +155,7 @@ QString expectedPlace(const QString& message, const QJsonObject& document)
     if (message == "Missing processed data graphs configuration node"_L1) {
         const QJsonArray graphs = elements(document, u"Processed Data"_s);
         const qsizetype index = firstOf(graphs, [](const QJsonValue& each) { return !each.isObject(); });
-        return index == graphs.size() ? u"(/Processed Data)?"_s : u"/Processed Data/%1"_s.arg(index);
+        return index == graphs.size() ? u"/Processed Data"_s : u"/Processed Data/%1"_s.arg(index);
     }
     if (message.startsWith("Unexpected axes"_L1) || message.startsWith("Axes combination"_L1)) {
         return axesPlace(message, document);

@@ -1,9 +1,11 @@
 // Whatever is done to the shipped document, the check and the loader agree: there is an error exactly when the loader
-// refuses the document, and the first error is at the place of which the loader's message tells.
+// refuses the document, with its sentence, and the first error is at its place, of which the sentence tells.
 
 #include "LoaderPlace.h"
 
+#include <batterydata/RawDataCollection.h>
 #include <check/Check.h>
+#include <config/Configuration.h>
 #include <config/UIConfig.h>
 #include <support/ConfigDocument.h>
 #include <support/QtPrinters.h>
@@ -18,8 +20,9 @@
 #include <random>
 
 using namespace Qt::StringLiterals;
+using cluiconfig::check::checkDocument;
 using cluiconfig::check::Finding;
-using cluiconfig::check::findingsIn;
+using cluiconfig::check::Result;
 using cluiconfig::check::Rule;
 using cluiconfig::check::Severity;
 
@@ -29,6 +32,18 @@ QByteArray shippedBytes()
 {
     QFile file(QStringLiteral(SHIPPED_DATA_DIRECTORY "/UIConfig.json"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// What stands at the place \p pointer of \p root; undefined if nothing does.
+QJsonValue valueAt(const QJsonObject& root, const QString& pointer)
+{
+    QJsonValue value = root;
+    const QStringList steps = pointer.split(u'/').mid(1);
+    for (QString step : steps) {
+        step = step.replace(u"~1"_s, u"/"_s).replace(u"~0"_s, u"~"_s);
+        value = value.isArray() ? value.toArray().at(step.toLongLong()) : value.toObject().value(step);
+    }
+    return value;
 }
 
 /// More than the default of some hundreds where somebody asks for it.
@@ -176,11 +191,28 @@ private:
     std::mt19937 m_random;
 };
 
+/// Whether \p finding stands where the loader refuses: at the place itself; at the object that lacks it or the value
+/// that is no object; of a reference, at the word of it that is wrong.
+bool isShownAt(const QString& place, const Finding& finding, const QJsonObject& root)
+{
+    if (finding.pointer == place) {
+        return true;
+    }
+    if (finding.rule == Rule::MissingKey || finding.rule == Rule::WrongType) {
+        const bool isMissing = valueAt(root, place).isUndefined();
+        return isMissing && finding.pointer == place.first(place.lastIndexOf(u'/'));
+    }
+    return (finding.rule == Rule::UnknownArray && finding.pointer == place + u"/Name"_s)
+        || (finding.rule == Rule::UnknownCategory && finding.pointer == place + u"/Category"_s);
+}
+
 } // namespace
 
-TEST(CheckedMutations, HaveAnErrorExactlyWhenTheLoaderRefusesThemAndItsPlaceIsFirst)
+TEST(CheckedMutations, HaveTheVerdictOfTheLoaderAndItsRefusalFirst)
 {
     auto& config = lumo::tools::Singleton<UIConfig>::instance();
+    const auto& catalogue =
+        lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
     const QJsonObject shipped = QJsonDocument::fromJson(shippedBytes()).object();
     ASSERT_FALSE(shipped.isEmpty());
     const DocumentFile file(shipped);
@@ -190,24 +222,38 @@ TEST(CheckedMutations, HaveAnErrorExactlyWhenTheLoaderRefusesThemAndItsPlaceIsFi
     for (int i = 0; i < total; ++i) {
         const QByteArray bytes = mutator.mutated(shipped);
         ASSERT_TRUE(QJsonDocument::fromJson(bytes).isObject()) << bytes.constData();
+        const QJsonObject root = QJsonDocument::fromJson(bytes).object();
         file.write(bytes);
         config.deleteAll();
         QString message;
         const bool loads = config.readUIConfiguration(file.path(), message);
 
-        const QJsonObject root = QJsonDocument::fromJson(bytes).object();
-        const QList<Finding> findings = findingsIn(bytes, root);
+        const Result result = checkDocument(bytes, root);
+        const QList<Finding>& findings = result.findings;
+        ASSERT_EQ(result.verdict.loads, loads) << "mutation " << i << ": " << message.toStdString();
+        EXPECT_EQ(result.verdict.error, message) << "mutation " << i;
         const bool hasError = std::any_of(findings.begin(), findings.end(),
                                           [](const Finding& each) { return each.severity == Severity::Error; });
         ASSERT_EQ(hasError, !loads) << "mutation " << i << ": " << message.toStdString()
                                     << (hasError ? findings.first().message.toStdString() : std::string());
+        EXPECT_TRUE(std::none_of(findings.begin(), findings.end(),
+                                 [](const Finding& each) { return each.rule == Rule::Refused; }))
+            << "mutation " << i << ": " << message.toStdString();
         if (!loads) {
             ++refused;
+            uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
+            uiconfig::Configuration configuration;
+            uiconfig::readConfiguration(root, catalogue, configuration, refusals);
+            ASSERT_EQ(refusals.all().size(), 1);
+            const uiconfig::Refusal& refusal = refusals.all().constFirst();
+            EXPECT_EQ(refusal.sentence, message);
+            EXPECT_TRUE(isPlaceOf(message, root, refusal.place))
+                << "mutation " << i << ": " << message.toStdString() << "\nplace: " << refusal.place.toStdString();
             const Finding& first = findings.first();
             EXPECT_EQ(first.severity, Severity::Error);
-            EXPECT_TRUE(isPlaceOf(message, root, first.pointer))
-                << "mutation " << i << ": " << message.toStdString() << "\nfirst error: " << first.pointer.toStdString()
-                << ' ' << first.message.toStdString();
+            EXPECT_TRUE(isShownAt(refusal.place, first, root))
+                << "mutation " << i << ": " << message.toStdString() << "\nplace: " << refusal.place.toStdString()
+                << "\nfirst error: " << first.pointer.toStdString() << ' ' << first.message.toStdString();
         }
     }
     EXPECT_GT(refused, total / 5);

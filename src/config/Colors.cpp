@@ -1,0 +1,107 @@
+#include <config/UIConfig.h>
+
+#include <config/private/SectionReaders.h>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace uiconfig {
+
+namespace {
+
+constexpr auto CustomColorsNotAnArray = "Custom colors is not an array node"_L1;
+constexpr auto ColorNotAnObject = "Color is not a Json object"_L1;
+constexpr auto RgbNotAnArray = "Color %1 is not a Json array"_L1;
+constexpr auto RgbMalformed = "Color %1 is not correctly formed"_L1;
+constexpr auto DefaultColorsNotAnObject = "Default colors is not an object node"_L1;
+
+bool readCustomColor(const QJsonValue& element, qsizetype index, Colors& colors, Refusals& refusals)
+{
+    const auto refuse = [&](const QString& sentence, const auto&... steps) {
+        return refusals.goOnAfter(sentence, jsonPointer(keys::Colors, keys::CustomColors, index, steps...));
+    };
+    if (!element.isObject()) {
+        return refuse(ColorNotAnObject);
+    }
+    const QJsonObject entry = element.toObject();
+    const QString name = entry.value(keys::ColorName).toString();
+    const QJsonValue triple = entry.value(keys::Rgb);
+    if (!triple.isArray()) {
+        return refuse(QString(RgbNotAnArray).arg(name), keys::Rgb);
+    }
+    const QJsonArray rgb = triple.toArray();
+    if (rgb.size() != 3) {
+        return refuse(QString(RgbMalformed).arg(name), keys::Rgb);
+    }
+    colors.custom.append({name, QColor(rgb.at(0).toInt(), rgb.at(1).toInt(), rgb.at(2).toInt(), 255)});
+    return true;
+}
+
+bool readCustomColors(const QJsonArray& palette, Colors& colors, Refusals& refusals)
+{
+    qsizetype index = 0;
+    return std::all_of(palette.begin(), palette.end(),
+                       [&](const QJsonValue& element) { return readCustomColor(element, index++, colors, refusals); });
+}
+
+void readDefaultColors(const QJsonObject& defaults, Colors& colors)
+{
+    for (auto it = defaults.begin(); it != defaults.end(); ++it) {
+        colors.defaults.insert(it.key(), it.value().toString());
+    }
+}
+
+} // namespace
+
+bool readColors(const QJsonObject& section, Colors& colors, Refusals& refusals)
+{
+    const QJsonValue palette = section.value(keys::CustomColors);
+    if (palette.isArray()
+            ? !readCustomColors(palette.toArray(), colors, refusals)
+            : !refusals.goOnAfter(CustomColorsNotAnArray, jsonPointer(keys::Colors, keys::CustomColors))) {
+        return false;
+    }
+    const QJsonValue defaults = section.value(keys::DefaultColors);
+    if (!defaults.isObject()) {
+        return refusals.goOnAfter(DefaultColorsNotAnObject, jsonPointer(keys::Colors, keys::DefaultColors));
+    }
+    readDefaultColors(defaults.toObject(), colors);
+    return true;
+}
+
+} // namespace uiconfig
+
+bool UIConfig::readColors(const QJsonObject& root, QString& error)
+{
+    return readSection(uiconfig::keys::Colors, root, error);
+}
+
+bool UIConfig::readCustomColors(const QJsonValue& customColors, QString& error)
+{
+    uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
+    uiconfig::Configuration configuration;
+    uiconfig::readCustomColors(customColors.toArray(), configuration.colors, refusals);
+    take(std::move(configuration));
+    return refusals.isEmpty(error);
+}
+
+bool UIConfig::readDefaultColors(const QJsonValue& defaultColors, QString& /*error*/)
+{
+    uiconfig::Configuration configuration;
+    uiconfig::readDefaultColors(defaultColors.toObject(), configuration.colors);
+    take(std::move(configuration));
+    return true;
+}
+
+bool UIConfig::getDefaultColor(const QString& key, QColor& color) const
+{
+    const QString name = m_defaultColors.value(key);
+    const auto found = std::find_if(m_customColors.cbegin(), m_customColors.cend(),
+                                    [&name](const auto& custom) { return custom.first == name; });
+    if (found == m_customColors.cend()) {
+        return false;
+    }
+    color = found->second;
+    return true;
+}

@@ -1,0 +1,20 @@
+#include <config/UIConfig.h>
+
+#include <base/JsonFields.h>
+#include <config/private/SectionReaders.h>
+
+namespace uiconfig {
+
+bool readFilters(const QJsonObject& filters, QList<QString>& skippedTasks)
+{
+    // What is missing or has another type reads as empty on the way down and adds nothing.
+    skippedTasks.append(JsonFields(filters.value(keys::Tasks).toObject()).texts(keys::Skipped));
+    return true;
+}
+
+} // namespace uiconfig
+
+bool UIConfig::readFilters(const QJsonObject& root, QString& error)
+{
+    return readSection(uiconfig::keys::Filters, root, error);
+}

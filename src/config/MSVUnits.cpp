@@ -1,0 +1,33 @@
+#include <config/UIConfig.h>
+
+#include <base/JsonFields.h>
+#include <config/private/SectionReaders.h>
+#include <datastorage/Converter.h>
+
+using cl::datastorage::Converter;
+
+namespace uiconfig {
+
+bool readMSVUnits(const QJsonArray& entries, QList<MSVUnitsCombination>& combinations)
+{
+    const auto elements = QCborArray::fromJsonArray(entries);
+    for (const auto& element : elements) {
+        const JsonFields entry(element);
+        MSVUnitsCombination& combination = combinations.emplaceBack();
+        combination.setPhysicalParameter(
+            Converter::getPhysicalParameterFromString(entry.text(keys::PhysicalParameter)));
+        combination.setOperator(Converter::getOperatorFromString(entry.text(keys::Operator)));
+        const QList<QString> parameters = entry.texts(keys::MultiParams);
+        for (const QString& parameter : parameters) {
+            combination.addMultiParamToList(Converter::getPhysicalParameterFromString(parameter));
+        }
+    }
+    return true;
+}
+
+} // namespace uiconfig
+
+bool UIConfig::readMSVUnitsCombinationsConfig(const QJsonObject& root, QString& error)
+{
+    return readSection(uiconfig::keys::MSVUnits, root, error);
+}

@@ -1,0 +1,40 @@
+#include <config/UIConfig.h>
+
+#include <base/TitleLookup.h>
+#include <config/private/SectionReaders.h>
+
+using namespace Qt::StringLiterals;
+
+namespace uiconfig {
+
+namespace {
+
+constexpr auto GraphNotAnObject = "Missing processed data graphs configuration node"_L1; // as of the whole section
+
+} // namespace
+
+bool readProcessedData(const QJsonArray& entries, QList<ProcessedDataItem>& graphs, Refusals& refusals)
+{
+    qsizetype index = 0;
+    for (const auto& entry : entries) {
+        if (entry.isObject()) {
+            graphs.emplaceBack().readGraphItem(entry.toObject());
+        } else if (!refusals.goOnAfter(GraphNotAnObject, jsonPointer(keys::ProcessedData, index))) {
+            return false;
+        }
+        ++index;
+    }
+    return true;
+}
+
+} // namespace uiconfig
+
+bool UIConfig::readProcessedDataGraph(const QJsonObject& root, QString& error)
+{
+    return readSection(uiconfig::keys::ProcessedData, root, error);
+}
+
+ProcessedDataItem UIConfig::getProcessedDataGraphFromTitle(const QString& title) const
+{
+    return firstWithTitle(m_processedDataGraph, title);
+}

@@ -1,0 +1,24 @@
+#include <config/UIConfig.h>
+
+#include <base/TitleLookup.h>
+#include <config/private/SectionReaders.h>
+
+namespace uiconfig {
+
+bool readRagonePlot(const QJsonObject& section, QList<RagonePlotItem>& graphs)
+{
+    appendTitledGraphs(section, graphs);
+    return true;
+}
+
+} // namespace uiconfig
+
+bool UIConfig::readRagonePlotGraph(const QJsonObject& root, QString& error)
+{
+    return readSection(uiconfig::keys::RagonePlot, root, error);
+}
+
+RagonePlotItem UIConfig::getRagonePlotGraphFromTitle(const QString& title) const
+{
+    return firstWithTitle(m_ragonePlotGraph, title);
+}

@@ -1,0 +1,24 @@
+#include <config/UIConfig.h>
+
+#include <base/TitleLookup.h>
+#include <config/private/SectionReaders.h>
+
+namespace uiconfig {
+
+bool readStatistics(const QJsonObject& section, QList<StatisticsItem>& graphs)
+{
+    appendTitledGraphs(section, graphs);
+    return true;
+}
+
+} // namespace uiconfig
+
+bool UIConfig::readStatsGraph(const QJsonObject& root, QString& error)
+{
+    return readSection(uiconfig::keys::Statistics, root, error);
+}
+
+StatisticsItem UIConfig::getStatGraphFromTitle(const QString& title) const
+{
+    return firstWithTitle(m_statsGraph, title);
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Rules.h"
+
+#include <QString>
+
+namespace cluiconfig::check {
+
+/// Something that the check found in a document.
+struct Finding
+{
+    Rule rule = Rule::Refused;
+    Severity severity = Severity::Error;
+    qsizetype offset = 0; ///< of the place, in bytes
+    QString pointer;
+    QString message; ///< what happens, and what to write instead
+    qsizetype line = 1;
+    qsizetype column = 1; ///< in characters
+};
+
+} // namespace cluiconfig::check

@@ -1,0 +1,102 @@
+#include "private/Findings.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace cluiconfig::check {
+
+Findings::Findings(const uiconfig::Refusals& refusals)
+    : m_refusals(refusals)
+{
+    qsizetype index = 0;
+    for (const uiconfig::Refusal& refusal : refusals.all()) {
+        m_refused.insert({refusal.place, {index++}});
+    }
+}
+
+bool Findings::explain(Refused& refused)
+{
+    return !std::exchange(refused.isExplained, true) && refused.index == 0;
+}
+
+bool Findings::isEarlier(const Kept& a, const Kept& b)
+{
+    return std::tie(a.finding.offset, a.sequence) < std::tie(b.finding.offset, b.sequence);
+}
+
+bool Findings::isKept(Rule rule, Severity severity, qsizetype offset)
+{
+    OfRule& ofRule = m_ofRule[rule];
+    ++ofRule.count;
+    ofRule.worst = std::max(ofRule.worst, severity);
+    return std::ssize(ofRule.kept) < MostOfARule || offset < ofRule.kept.front().finding.offset;
+}
+
+void Findings::keep(const Finding& finding)
+{
+    // A heap with the last one of the document in front.
+    OfRule& ofRule = m_ofRule[finding.rule];
+    ofRule.kept.push_back({finding, ofRule.count});
+    std::push_heap(ofRule.kept.begin(), ofRule.kept.end(), isEarlier);
+    if (std::ssize(ofRule.kept) > MostOfARule) {
+        std::pop_heap(ofRule.kept.begin(), ofRule.kept.end(), isEarlier);
+        ofRule.kept.pop_back();
+    }
+}
+
+void Findings::add(const Finding& finding)
+{
+    if (isKept(finding.rule, finding.severity, finding.offset)) {
+        keep(finding);
+    }
+}
+
+void Findings::addUnexplained()
+{
+    for (const auto& [place, refused] : m_refused) {
+        if (!refused.isExplained) {
+            Finding finding;
+            finding.pointer = place;
+            finding.message =
+                u"The application refuses the document: %1."_s.arg(m_refusals.all().at(refused.index).sentence);
+            if (refused.index == 0) {
+                m_firstError = finding;
+            }
+            add(finding);
+        }
+    }
+}
+
+QList<Finding> Findings::list() const
+{
+    std::vector<Kept> all;
+    for (const auto& [rule, ofRule] : m_ofRule) {
+        all.insert(all.end(), ofRule.kept.begin(), ofRule.kept.end());
+        const qsizetype others = ofRule.count - std::ssize(ofRule.kept);
+        if (others > 0) {
+            Kept summary = ofRule.kept.front();
+            summary.finding.severity = ofRule.worst;
+            summary.finding.message =
+                u"%1 more findings of this rule follow, %2 in all."_s.arg(others).arg(ofRule.count);
+            all.push_back(summary);
+        }
+    }
+    std::stable_sort(all.begin(), all.end(), isEarlier);
+    QList<Finding> list;
+    if (m_firstError) {
+        list.append(*m_firstError);
+    }
+    for (const Kept& each : all) {
+        const bool isFirstError = m_firstError && each.finding.rule == m_firstError->rule
+            && each.finding.pointer == m_firstError->pointer && each.finding.message == m_firstError->message;
+        if (!isFirstError) {
+            list.append(each.finding);
+        }
+    }
+    return list;
+}
+
+} // namespace cluiconfig::check

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace cluiconfig::check {
+
+/// The one of \p known that somebody who wrote \p text most likely meant; empty when none is near. Near are a few
+/// slips of the hand, another case, and a beginning ("Voltage" of "Voltage / V").
+QString suggestion(const QString& text, const QStringList& known);
+
+/// ` Did you mean "…"?` with that suggestion, to follow a sentence; empty when there is none.
+QString didYouMean(const QString& text, const QStringList& known);
+
+/// `"A", "B" or "C"`. REQUIRES: there is a name.
+QString alternatives(const QStringList& names);
+
+/// \p text in quotes for a message: one line, shortened when it is long.
+QString quoted(const QString& text);
+
+} // namespace cluiconfig::check

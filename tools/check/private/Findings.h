@@ -1,0 +1,154 @@
+#pragma once
+
+#include "Document.h"
+
+#include <base/Refusals.h>
+#include <check/Finding.h>
+
+#include <QList>
+#include <QString>
+
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace cluiconfig::check {
+
+/// What happens to what is refused, in a message.
+inline const QString Refuses = QStringLiteral("the application refuses the document");
+
+/// The findings of one document while it is being checked.
+///
+/// What the readers of the application refuse is known from the start: a finding at such a place is an error, every
+/// other one a warning.
+///
+/// Of each rule the first two hundred of the document are kept, and the others only counted, so that a document full of
+/// mistakes takes no more memory than any other.
+class Findings
+{
+public:
+    static constexpr qsizetype MostOfARule = 200;
+
+    explicit Findings(const uiconfig::Refusals& refusals);
+
+    bool isRefused(const QString& pointer) const { return m_refused.contains(pointer); }
+
+    /// Adds a warning at \p place. \p message is called if it is kept.
+    template <typename Message>
+    void warn(Rule rule, const Value& place, Message message)
+    {
+        addWarning(rule, place, place.offset(), message);
+    }
+
+    /// The same for the key of \p place.
+    template <typename Message>
+    void warnAtKey(Rule rule, const Value& place, Message message)
+    {
+        addWarning(rule, place, place.keyOffset(), message);
+    }
+
+    /// Adds what explains a refusal of \p pointer if there is one, which makes it an error, and a warning otherwise.
+    /// \p message is called with whether there is one.
+    template <typename Message>
+    void report(Rule rule, const Value& place, const QString& pointer, Message message)
+    {
+        const auto refused = m_refused.find(pointer);
+        if (refused == m_refused.end()) {
+            warn(rule, place, [&] { return message(false); });
+            return;
+        }
+        const bool isFirst = explain(refused->second);
+        addError(rule, place, isFirst, [&] { return message(true); });
+    }
+
+    /// The same about the value at \p place itself.
+    template <typename Message>
+    void report(Rule rule, const Value& place, Message message)
+    {
+        report(rule, place, place.pointer(), message);
+    }
+
+    /// The same about a value that lacks everything which could be refused in it: it explains those refusals, too.
+    template <typename Message>
+    void reportWhole(Rule rule, const Value& place, Message message)
+    {
+        const QString pointer = place.pointer();
+        bool isError = false;
+        bool isFirst = false;
+        for (auto each = m_refused.lower_bound(pointer); each != m_refused.end() && each->first.startsWith(pointer);
+             ++each) {
+            if (each->first.size() == pointer.size() || each->first.at(pointer.size()) == u'/') {
+                isError = true;
+                isFirst = explain(each->second) || isFirst;
+            }
+        }
+        if (isError) {
+            addError(rule, place, isFirst, [&] { return message(true); });
+        } else {
+            warn(rule, place, [&] { return message(false); });
+        }
+    }
+
+    /// Adds a finding about the whole document, or a place of it that is no value.
+    void add(const Finding& finding);
+
+    /// Adds an error for every refusal that no finding explains.
+    void addUnexplained();
+
+    /// First the error that the loader comes across first, then all others in document order. Where findings of a rule
+    /// were only counted, one more says how many.
+    QList<Finding> list() const;
+
+private:
+    struct Refused
+    {
+        qsizetype index; // among all refusals
+        bool isExplained = false;
+    };
+
+    struct Kept
+    {
+        Finding finding;
+        qsizetype sequence; // among those of its rule, as they were made
+    };
+
+    struct OfRule
+    {
+        std::vector<Kept> kept;
+        qsizetype count = 0;
+        Severity worst = Severity::Off;
+    };
+
+    template <typename Message>
+    void addWarning(Rule rule, const Value& place, qsizetype offset, Message& message)
+    {
+        if (isKept(rule, Severity::Warning, offset)) {
+            keep({rule, Severity::Warning, offset, place.pointer(), message()});
+        }
+    }
+
+    template <typename Message>
+    void addError(Rule rule, const Value& place, bool isFirst, Message message)
+    {
+        if (isKept(rule, Severity::Error, place.offset()) || isFirst) {
+            const Finding finding{rule, Severity::Error, place.offset(), place.pointer(), message()};
+            if (isFirst) {
+                m_firstError = finding;
+            }
+            keep(finding);
+        }
+    }
+
+    /// Notes that a finding explains \p refused; true when it is the first that explains the first refusal.
+    static bool explain(Refused& refused);
+    static bool isEarlier(const Kept& a, const Kept& b);
+    bool isKept(Rule rule, Severity severity, qsizetype offset);
+    void keep(const Finding& finding);
+
+    const uiconfig::Refusals& m_refusals;
+    std::map<QString, Refused> m_refused; // by place
+    std::map<Rule, OfRule> m_ofRule;
+    std::optional<Finding> m_firstError;
+};
+
+} // namespace cluiconfig::check

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Catalogue.h"
+#include "Document.h"
+#include "Findings.h"
+
+#include <initializer_list>
+
+class AxesCombinationManager;
+
+/// \file Sections.h
+/// What the check knows of the sections beyond their structure, a source file a section. Each function takes the value
+/// of its section, which has the section's type, and adds findings. What has the wrong type or is missing within it is
+/// passed over: the structure tells of it.
+
+namespace cluiconfig::check {
+
+/// What the sections are checked with.
+struct Context
+{
+    const Catalogue& catalogue;
+    const AxesCombinationManager& axes; ///< What the document's axes combinations yield.
+    Findings& findings;
+};
+
+void checkAxesCombinations(const Value& section, const Context& with);
+void checkRepresentations(const Value& section, const Context& with);
+void checkMSVUnits(const Value& section, const Context& with);
+void checkTools(const Value& section, const Context& with);
+void checkColors(const Value& section, const Context& with);
+void checkStatistics(const Value& section, const Context& with);
+void checkRagonePlot(const Value& section, const Context& with);
+void checkProcessedData(const Value& section, const Context& with);
+void checkRecipe(const Value& section, const Context& with);
+void checkProcessFormula(const Value& section, const Context& with);
+void checkDQdU(const Value& section, const Context& with);
+
+// What several sections have.
+
+/// The columns \p names of a table, all of one category that the catalogue has.
+void checkColumns(const Value& names, const QString& category, const Context& with);
+
+/// The category and the arrays of a plot: those under \p axes make it what it is, those under \p others, names or lists
+/// of names, come on top.
+void checkPlot(const Value& plot, std::initializer_list<QLatin1StringView> axes,
+               std::initializer_list<QLatin1StringView> others, const Context& with);
+
+/// A section whose members are graphs, each a list of curves.
+void checkCurves(const Value& graphs, const Context& with);
+
+} // namespace cluiconfig::check
