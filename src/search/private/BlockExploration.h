@@ -79,7 +79,7 @@ private:
     /// What the letters of the first path behind the first few bring in \p range.
     int laterPoints(const Set& range) const
     {
-        static_assert(wordStartBonus == 2 * adjacentBonus);
+        static_assert(wordStartBonus == 2 * adjacentBonus, "weightedCount() counts word starts twice");
         return adjacentBonus * Set::weightedCount(m_laterAdjacent & range, m_laterWordStarts & range);
     }
 
@@ -93,7 +93,7 @@ private:
     /// What the first letter brings or costs at \p place for being there, words apart.
     static int startPoints(const Set& place)
     {
-        static_assert(earlyPositions == 0b111);
+        static_assert(earlyPositions == 0b111 && latePoints(3) == -latePenaltyLimit, "from 3 on all cost the same");
         static constexpr std::array<int, 9> points = {latePoints(3), firstPositionBonus, latePoints(1),
                                                       latePoints(3), latePoints(2),      latePoints(3),
                                                       latePoints(3), latePoints(3),      latePoints(3)};
@@ -109,6 +109,7 @@ private:
     {
         const int count = places.count();
         if (count >= m_branches) {
+            static_assert(branchLimit + 1 <= Set::firstLimit, "first() gives no more");
             places = places.first(m_branches + 1);
             m_branches = 0;
         } else {

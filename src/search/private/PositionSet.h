@@ -18,6 +18,7 @@ class PositionSet
 {
 public:
     static constexpr int capacity = 64 * Words;
+    static constexpr int firstLimit = 9;
 
     /// Holds anything: assign before use.
     PositionSet() = default;
@@ -126,7 +127,7 @@ public:
         }
     }
 
-    /// The lowest \p limit positions, or all if there are no more. REQUIRES: limit is at most 9.
+    /// The lowest \p limit positions, or all if there are no more. REQUIRES: limit is at most firstLimit.
     PositionSet first(int limit) const
     {
         if constexpr (Words == 2) {
@@ -202,7 +203,7 @@ private:
     /// All steps are taken, because how many are needed is different each time.
     static std::uint64_t lowestBits(std::uint64_t word, int limit)
     {
-        std::array<std::uint64_t, 10> rest;
+        std::array<std::uint64_t, firstLimit + 1> rest;
         rest[0] = word;
         for (std::size_t i = 1; i < rest.size(); ++i) {
             rest[i] = rest[i - 1] & (rest[i - 1] - 1);

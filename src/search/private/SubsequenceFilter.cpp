@@ -15,6 +15,7 @@ constexpr std::size_t longest = 31; // one bit more stands for "all found"
 SubsequenceFilter::SubsequenceFilter(std::string_view query)
     : m_length(static_cast<int>(std::min(query.size(), longest)))
 {
+    static_assert(longest < backShift, "the front needs a bit for all found");
     std::array<std::uint32_t, 256> front{};
     std::array<std::uint32_t, 256> back{};
     for (int i = 0; i < m_length; ++i) {

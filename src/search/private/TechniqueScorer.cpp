@@ -6,6 +6,7 @@
 #include <search/TechniqueSearchStrategy.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 
 using namespace search::technique;
@@ -14,9 +15,26 @@ namespace search {
 
 namespace {
 
-/// Up to these lengths no sum comes near the limits of int.
+/// Longer queries and texts are left to the function that wraps where the rule does.
 constexpr std::size_t longestQuery = 10'000;
-constexpr std::size_t longestText = std::numeric_limits<int>::max();
+constexpr std::size_t longestText = std::numeric_limits<std::int32_t>::max();
+
+/// What a position that reads as zero brings: a run of one, the first position, and the gap behind it.
+constexpr int zeroPoints = runWeight + firstPositionBonus - gapPenalty;
+
+/// The most that a query of \p length letters can score without the prefix bonus: in one run, all letters word starts.
+constexpr std::int64_t mostPoints(std::int64_t length)
+{
+    return basePoints + pieceBonuses + runWeight * length * length
+        + std::max(wordStartBonus, firstPositionBonus) * length;
+}
+
+// What score() needs of the constants to give the same as the function it stands in for. The steps are those of
+// "Why a long list needs to look at runs only" in docs/search.md, which says why each is needed.
+static_assert(gapPenalty >= 0 && wordStartBonus >= 0 && zeroPoints >= 0, "step 1: only gaps cost");
+static_assert(zeroPoints <= 3 * runWeight, "step 2: a zero never pays while two letters of its run are left");
+static_assert(mostPoints(longestQuery) <= std::numeric_limits<int>::max(), "step 5: no sum leaves the range of int");
+static_assert(longestText - 1 <= std::numeric_limits<std::int32_t>::max(), "step 6: no position comes after 2 GiB");
 
 } // namespace
 
@@ -41,7 +59,6 @@ std::optional<int> TechniqueScorer::score(std::string_view text) const
 
     // One turn for each run of the greedy path. Zeroing the path up to a run gives up the points of the runs before it
     // and brings a fixed sum for each of their letters; gain is the best such exchange.
-    constexpr int zeroPoints = runWeight + firstPositionBonus - gapPenalty;
     int points = 0;
     int gain = 0;
     std::size_t at = 0;
