@@ -150,6 +150,7 @@ TEST(FtsStrategy, EqualScoresComeWithTheLaterOneFirst)
 
 TEST(FtsStrategy, RankGivesTheScoresInTheSameOrder)
 {
+    EXPECT_THAT(find("ab", {"ab", "zzz", "xAb"}), ElementsAre(2, 0));
     const std::vector<std::string_view> list = {"ab", "zzz", "xAb"};
     const auto matches = FtsStrategy::rank("ab", list);
     ASSERT_EQ(matches.size(), 2U);

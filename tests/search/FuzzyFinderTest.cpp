@@ -51,12 +51,19 @@ static_assert(std::is_copy_assignable_v<FuzzyFinder> && std::is_move_assignable_
 static_assert(std::is_empty_v<FuzzyFinder>);
 static_assert(std::is_abstract_v<AFuzzyFinderStrategy> && std::has_virtual_destructor_v<AFuzzyFinderStrategy>);
 
+template <class Strategy>
+std::vector<std::size_t> findWithACopy()
+{
+    const Strategy original;
+    Strategy copy(original);
+    copy = original;
+    return copy.applyAlgorithm("cv", {"CV", "x", "ocv"});
+}
+
 TEST(FuzzyFinder, StrategiesCanBeCopiedAndAssigned)
 {
-    const FtsStrategy original;
-    FtsStrategy copy(original);
-    copy = original;
-    EXPECT_THAT(copy.applyAlgorithm("cv", {"CV", "x", "ocv"}), ElementsAre(0, 2));
+    EXPECT_THAT(findWithACopy<FtsStrategy>(), ElementsAre(0, 2));
+    EXPECT_THAT(findWithACopy<TechniqueSearchStrategy>(), ElementsAre(0, 2));
 }
 
 TEST(FuzzyFinder, KeepsTheFirstMaxResults)
@@ -94,12 +101,13 @@ TEST(FuzzyFinder, DestroysTheStrategyBeforeItReturns)
 
 TEST(FuzzyFinder, RanksWithTheStrategyItIsGiven)
 {
-    // The text strategy prefers the word start, the technique strategy the run.
-    const std::vector<std::string> candidates = {"xxxx_ax_b", "xxxxxabxx"};
-    EXPECT_THAT(FuzzyFinder::search("ab", candidates, -1, std::make_unique<FtsStrategy>()), ElementsAre(0, 1));
-    EXPECT_THAT(FuzzyFinder::search("ab", candidates, 1, std::make_unique<FtsStrategy>()), ElementsAre(0));
-    EXPECT_THAT(FuzzyFinder::search("ab", {"xa_xxb", "xxabxx"}, -1, std::make_unique<TechniqueSearchStrategy>()),
+    // The text strategy prefers the word starts, the technique strategy the run.
+    const std::vector<std::string> candidates = {"wxy_a_b_c", "uvwxyzabc"};
+    EXPECT_THAT(FuzzyFinder::search("abc", candidates, -1, std::make_unique<FtsStrategy>()), ElementsAre(0, 1));
+    EXPECT_THAT(FuzzyFinder::search("abc", candidates, 1, std::make_unique<FtsStrategy>()), ElementsAre(0));
+    EXPECT_THAT(FuzzyFinder::search("abc", candidates, -1, std::make_unique<TechniqueSearchStrategy>()),
                 ElementsAre(1, 0));
+    EXPECT_THAT(FuzzyFinder::search("abc", candidates, 1, std::make_unique<TechniqueSearchStrategy>()), ElementsAre(1));
 }
 
 TEST(FuzzyFinder, EmptyListGivesNothing)

@@ -50,6 +50,7 @@ TEST(TechniqueSearchStrategy, EmptyCandidateMatchesTheEmptyQueryOnly)
 {
     EXPECT_EQ(scoreOf("a", ""), std::nullopt);
     EXPECT_THAT(find("a", {"", "a"}), ElementsAre(1));
+    EXPECT_THAT(find("", {""}), ElementsAre(0));
     EXPECT_THAT(find("a", {}), IsEmpty());
 }
 
@@ -129,6 +130,7 @@ TEST(TechniqueSearchStrategy, EqualScoresComeWithTheLaterOneFirst)
 
 TEST(TechniqueSearchStrategy, RankGivesTheScoresInTheSameOrder)
 {
+    EXPECT_THAT(find("cv", {"CV", "zzz", "OCV"}), ElementsAre(0, 2));
     const std::vector<std::string_view> list = {"CV", "zzz", "OCV"};
     const auto matches = TechniqueSearchStrategy::rank("cv", list);
     ASSERT_EQ(matches.size(), 2U);
