@@ -7,7 +7,9 @@
 #include <QList>
 #include <QString>
 
-/// The members of a JSON object as the readers take them: what is missing or has another type reads as empty.
+/// The members of an entry of a document or an archive as the readers take them: what is missing or has another type
+/// reads as empty. An object whose keys are anybody's choice (titles, categories) is walked as the QJsonObject that it
+/// is.
 ///
 /// It looks at the same data as CBOR, in which a member is found and an element is passed in half the time; a document
 /// of some size has thousands of them.

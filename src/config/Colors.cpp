@@ -1,6 +1,8 @@
 #include <config/UIConfig.h>
 
-#include <config/private/SectionReaders.h>
+#include <base/DocumentKeys.h>
+#include <base/JsonFields.h>
+#include <config/Configuration.h>
 
 #include <algorithm>
 
@@ -16,21 +18,21 @@ constexpr auto RgbNotAnArray = "Color %1 is not a Json array"_L1;
 constexpr auto RgbMalformed = "Color %1 is not correctly formed"_L1;
 constexpr auto DefaultColorsNotAnObject = "Default colors is not an object node"_L1;
 
-bool readCustomColor(const QJsonValue& element, qsizetype index, Colors& colors, Refusals& refusals)
+bool readCustomColor(const QCborValueConstRef& element, qsizetype index, Colors& colors, Refusals& refusals)
 {
     const auto refuse = [&](const QString& sentence, const auto&... steps) {
         return refusals.goOnAfter(sentence, jsonPointer(keys::Colors, keys::CustomColors, index, steps...));
     };
-    if (!element.isObject()) {
+    if (!element.isMap()) {
         return refuse(ColorNotAnObject);
     }
-    const QJsonObject entry = element.toObject();
-    const QString name = entry.value(keys::ColorName).toString();
-    const QJsonValue triple = entry.value(keys::Rgb);
+    const JsonFields entry(element);
+    const QString name = entry.text(keys::ColorName);
+    const QCborValue triple = entry.value(keys::Rgb);
     if (!triple.isArray()) {
         return refuse(QString(RgbNotAnArray).arg(name), keys::Rgb);
     }
-    const QJsonArray rgb = triple.toArray();
+    const QJsonArray rgb = triple.toArray().toJsonArray(); // which reads a number that is not whole as 0
     if (rgb.size() != 3) {
         return refuse(QString(RgbMalformed).arg(name), keys::Rgb);
     }
@@ -40,9 +42,14 @@ bool readCustomColor(const QJsonValue& element, qsizetype index, Colors& colors,
 
 bool readCustomColors(const QJsonArray& palette, Colors& colors, Refusals& refusals)
 {
+    const auto elements = QCborArray::fromJsonArray(palette);
     qsizetype index = 0;
-    return std::all_of(palette.begin(), palette.end(),
-                       [&](const QJsonValue& element) { return readCustomColor(element, index++, colors, refusals); });
+    for (const auto& element : elements) {
+        if (!readCustomColor(element, index++, colors, refusals)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 void readDefaultColors(const QJsonObject& defaults, Colors& colors)

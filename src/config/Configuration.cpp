@@ -1,7 +1,7 @@
 #include <config/Configuration.h>
 
 #include <axes/AxesCombinations.h>
-#include <config/private/SectionReaders.h>
+#include <base/DocumentKeys.h>
 #include <datastorage/JsonUtils.h>
 
 #include <algorithm>

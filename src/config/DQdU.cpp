@@ -1,7 +1,7 @@
 #include <config/UIConfig.h>
 
 #include <batterydata/ClConfigDataArray.h>
-#include <config/private/SectionReaders.h>
+#include <config/private/SharedReaders.h>
 
 using namespace Qt::StringLiterals;
 using cl::batterydata::ClConfigDataArray;

@@ -1,14 +1,15 @@
 #include <config/UIConfig.h>
 
+#include <base/DocumentKeys.h>
 #include <base/JsonFields.h>
-#include <config/private/SectionReaders.h>
+#include <config/Configuration.h>
 
 namespace uiconfig {
 
-bool readFilters(const QJsonObject& filters, QList<QString>& skippedTasks)
+bool readFilters(const QJsonObject& section, QList<QString>& skippedTasks)
 {
     // What is missing or has another type reads as empty on the way down and adds nothing.
-    skippedTasks.append(JsonFields(filters.value(keys::Tasks).toObject()).texts(keys::Skipped));
+    skippedTasks.append(JsonFields(section.value(keys::Tasks).toObject()).texts(keys::Skipped));
     return true;
 }
 

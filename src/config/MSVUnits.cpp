@@ -1,7 +1,8 @@
 #include <config/UIConfig.h>
 
+#include <base/DocumentKeys.h>
 #include <base/JsonFields.h>
-#include <config/private/SectionReaders.h>
+#include <config/Configuration.h>
 #include <datastorage/Converter.h>
 
 using cl::datastorage::Converter;

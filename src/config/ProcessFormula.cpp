@@ -1,13 +1,14 @@
 #include <config/UIConfig.h>
 
+#include <base/DocumentKeys.h>
 #include <base/JsonFields.h>
-#include <config/private/SectionReaders.h>
+#include <config/Configuration.h>
 
 namespace uiconfig {
 
-bool readProcessFormula(const QJsonObject& groups, ProcessFormulas& formulas)
+bool readProcessFormula(const QJsonObject& section, ProcessFormulas& formulas)
 {
-    for (auto it = groups.begin(); it != groups.end(); ++it) {
+    for (auto it = section.begin(); it != section.end(); ++it) {
         // Every group that is not one of the two others is taken for the second Y axis.
         Formulas& list = it.key() == keys::XFormulas ? formulas.x
             : it.key() == keys::Y1Formulas           ? formulas.y1

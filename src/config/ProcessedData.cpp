@@ -1,7 +1,8 @@
 #include <config/UIConfig.h>
 
+#include <base/DocumentKeys.h>
 #include <base/TitleLookup.h>
-#include <config/private/SectionReaders.h>
+#include <config/Configuration.h>
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include <config/UIConfig.h>
 
 #include <base/TitleLookup.h>
-#include <config/private/SectionReaders.h>
+#include <config/private/SharedReaders.h>
 
 namespace uiconfig {
 

@@ -1,7 +1,8 @@
 #include <config/UIConfig.h>
 
+#include <base/DocumentKeys.h>
 #include <base/JsonFields.h>
-#include <config/private/SectionReaders.h>
+#include <config/Configuration.h>
 
 #include <utility>
 
@@ -63,7 +64,6 @@ bool UIConfig::readRecipeCommandConfig(QJsonValue recipe, const QString& command
 
 void UIConfig::appendRecipeItems(const QList<uiconfig::RecipeEntry>& entries, QList<RecipeConfigItem>& list)
 {
-    list.reserve(list.size() + entries.size());
     for (const uiconfig::RecipeEntry& entry : entries) {
         RecipeConfigItem& item = list.emplaceBack();
         item.setType(entry.command);

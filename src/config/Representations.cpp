@@ -1,8 +1,9 @@
 #include <config/UIConfig.h>
 
+#include <base/DocumentKeys.h>
 #include <base/JsonFields.h>
 #include <batterydata/ClConfigDataArrayManager.h>
-#include <config/private/SectionReaders.h>
+#include <config/Configuration.h>
 
 using namespace Qt::StringLiterals;
 

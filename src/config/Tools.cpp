@@ -2,7 +2,7 @@
 
 #include <batterydata/ClConfigDataArray.h>
 #include <batterydata/ClConfigDataArrayManager.h>
-#include <config/private/SectionReaders.h>
+#include <config/private/SharedReaders.h>
 
 #include <array>
 #include <utility>
@@ -40,14 +40,14 @@ void appendColumns(const QJsonArray& names, const QString& category, const Catal
     }
 }
 
-bool readTools(const QJsonObject& tools, const Catalogue& catalogue, SummaryTables& tables, Refusals& refusals)
+bool readTools(const QJsonObject& section, const Catalogue& catalogue, SummaryTables& tables, Refusals& refusals)
 {
-    const QJsonObject section = tools.value(keys::SummaryTable).toObject();
+    const QJsonObject table = section.value(keys::SummaryTable).toObject();
     using Kind = std::pair<QLatin1StringView, Columns&>;
     const std::array kinds{Kind{keys::PerStep, tables.perStep}, Kind{keys::PerCycle, tables.perCycle},
                            Kind{keys::PerLoop, tables.perLoop}};
     for (const auto& [key, columns] : kinds) {
-        const QJsonValue kind = section.value(key);
+        const QJsonValue kind = table.value(key);
         if (!kind.isObject()) {
             return true; // a missing kind hides the later ones
         }

@@ -5,7 +5,6 @@
 #include "private/Structure.h"
 
 #include <axes/AxesCombinationManager.h>
-#include <base/DocumentKeys.h>
 #include <base/Singleton.h>
 #include <batterydata/RawDataCollection.h>
 #include <config/Configuration.h>
@@ -22,28 +21,10 @@
 
 using namespace Qt::StringLiterals;
 using cl::datastorage::JsonUtils;
-namespace keys = uiconfig::keys;
 
 namespace cluiconfig::check {
 
 namespace {
-
-using Check = void (*)(const Value& section, const Context& with);
-
-/// What is checked beyond the structure, and where. A section without a row has nothing else to be wrong.
-constexpr std::pair<QLatin1StringView, Check> SectionChecks[] = {
-    {keys::AxesCombinations, checkAxesCombinations},
-    {keys::Representations, checkRepresentations},
-    {keys::MSVUnits, checkMSVUnits},
-    {keys::Tools, checkTools},
-    {keys::Colors, checkColors},
-    {keys::Statistics, checkStatistics},
-    {keys::RagonePlot, checkRagonePlot},
-    {keys::ProcessedData, checkProcessedData},
-    {keys::Recipe, checkRecipe},
-    {keys::ProcessFormula, checkProcessFormula},
-    {keys::DQdU, checkDQdU},
-};
 
 Finding errorAboutTheFile(Rule rule, const QString& message)
 {
@@ -141,9 +122,9 @@ void checkSections(const Value& root, const Context& with)
 {
     for (const uiconfig::Section& section : uiconfig::sections()) {
         const std::optional<Value> value = root.member(section.key);
-        const auto row = std::ranges::find(SectionChecks, section.key, [](const auto& each) { return each.first; });
-        if (value && section.isTypeOf(value->json()) && row != std::end(SectionChecks)) {
-            row->second(*value, with);
+        const auto row = std::ranges::find(SectionChecks, section.key, &SectionCheck::section);
+        if (value && section.isTypeOf(value->json()) && row != SectionChecks.end()) {
+            row->check(*value, with);
         }
     }
 }

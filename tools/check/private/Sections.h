@@ -4,6 +4,9 @@
 #include "Document.h"
 #include "Findings.h"
 
+#include <base/DocumentKeys.h>
+
+#include <array>
 #include <initializer_list>
 
 class AxesCombinationManager;
@@ -34,6 +37,27 @@ void checkProcessedData(const Value& section, const Context& with);
 void checkRecipe(const Value& section, const Context& with);
 void checkProcessFormula(const Value& section, const Context& with);
 void checkDQdU(const Value& section, const Context& with);
+
+struct SectionCheck
+{
+    QLatin1StringView section;
+    void (*check)(const Value& section, const Context& with);
+};
+
+/// What is checked beyond the structure, and where. A section without a row has nothing else to be wrong.
+inline constexpr std::array SectionChecks{
+    SectionCheck{uiconfig::keys::AxesCombinations, checkAxesCombinations},
+    SectionCheck{uiconfig::keys::Representations, checkRepresentations},
+    SectionCheck{uiconfig::keys::MSVUnits, checkMSVUnits},
+    SectionCheck{uiconfig::keys::Tools, checkTools},
+    SectionCheck{uiconfig::keys::Colors, checkColors},
+    SectionCheck{uiconfig::keys::Statistics, checkStatistics},
+    SectionCheck{uiconfig::keys::RagonePlot, checkRagonePlot},
+    SectionCheck{uiconfig::keys::ProcessedData, checkProcessedData},
+    SectionCheck{uiconfig::keys::Recipe, checkRecipe},
+    SectionCheck{uiconfig::keys::ProcessFormula, checkProcessFormula},
+    SectionCheck{uiconfig::keys::DQdU, checkDQdU},
+};
 
 // What several sections have.
 
