@@ -108,16 +108,29 @@ TEST(AxesCombinationManager, UnknownPairGivesADefaultRecord)
     }
 }
 
-TEST(AxesCombinationManager, AnswersAreCopies)
+// The answers are taken by reference, which would follow the manager if they were its own.
+TEST(AxesCombinationManager, AnswersStayAsTheyAreWhenTheManagerChanges)
 {
-    const Manager manager = sampleManager();
-    manager.getAxesCombination(u"Time"_s, u"Voltage"_s).setConfigurationOrthonormal(true);
-    manager.getAxesCombinations(u"Time"_s).first().setConfigurationOrthonormal(true);
-    manager.getXAxesNames().clear();
-    manager.getYAxesNames(u"Time"_s).clear();
-    EXPECT_EQ(described(manager.getAxesCombinations()), described(sampleManager().getAxesCombinations()));
-    EXPECT_EQ(manager.getXAxesNames().size(), 2);
-    EXPECT_EQ(manager.getYAxesNames(u"Time"_s).size(), 2);
+    Manager manager = sampleManager();
+    const auto& pair = manager.getAxesCombination(u"Time"_s, u"Voltage"_s);
+    const auto& records = manager.getAxesCombinations(u"Time"_s);
+    const auto& xNames = manager.getXAxesNames();
+    const auto& yNames = manager.getYAxesNames(u"Time"_s);
+    const auto expectAnswersOfTheSample = [&](const char* change) {
+        EXPECT_EQ(described(pair), u"Time (Step) / Voltage (Step), logarithmic / linear"_s) << change;
+        EXPECT_EQ(described(records), described(sampleManager().getAxesCombinations(u"Time"_s))) << change;
+        EXPECT_EQ(xNames, QStringList({u"Time"_s, u"Charge"_s})) << change;
+        EXPECT_EQ(yNames, QStringList({u"Voltage"_s, u"Charge"_s})) << change;
+    };
+    manager.append(record({u"Time"_s, u"Loop"_s}, {u"Energy"_s, u"Loop"_s}));
+    manager.append(record({u"Energy"_s, u"Loop"_s}, {u"Time"_s, u"Loop"_s}));
+    expectAnswersOfTheSample("append");
+    manager.removeDuplicates();
+    expectAnswersOfTheSample("removeDuplicates");
+    manager = managerOf({record({u"other"_s, u"c"_s}, {u"y"_s, u"c"_s})});
+    expectAnswersOfTheSample("assignment");
+    manager.deleteAll();
+    expectAnswersOfTheSample("deleteAll");
 }
 
 TEST(AxesCombinationManager, RecordsOfAnXNameComeInListOrder)
