@@ -12,6 +12,12 @@ namespace {
 constexpr auto Linear = QCPAxis::stLinear;
 constexpr auto Logarithmic = QCPAxis::stLogarithmic;
 
+/// The record that \p manager gives for these two names.
+QString timeAndVoltage(const AxesCombinationManager& manager)
+{
+    return described(manager.getAxesCombination(u"Time"_s, u"Voltage"_s));
+}
+
 } // namespace
 
 TEST(AxesCombinationDuplicates, OfDuplicatesTheFirstStaysWithItsOwnScalesAndFlag)
@@ -23,16 +29,14 @@ TEST(AxesCombinationDuplicates, OfDuplicatesTheFirstStaysWithItsOwnScalesAndFlag
         record({u"Time"_s, u"c"_s}, {u"Charge"_s, u"c"_s}, Logarithmic),
         record({u"Time"_s, u"c"_s}, {u"Voltage"_s, u"c"_s}),
     });
-    EXPECT_EQ(described(manager.getAxesCombination(u"Time"_s, u"Voltage"_s)),
-              u"Time (c) / Voltage (c), logarithmic / linear, orthonormal"_s);
+    EXPECT_EQ(timeAndVoltage(manager), u"Time (c) / Voltage (c), logarithmic / linear, orthonormal"_s);
     manager.removeDuplicates();
     EXPECT_EQ(described(manager.getAxesCombinations()),
               QStringList({
                   u"Time (c) / Voltage (c), logarithmic / linear, orthonormal"_s,
                   u"Time (c) / Charge (c), linear / linear"_s,
               }));
-    EXPECT_EQ(described(manager.getAxesCombination(u"Time"_s, u"Voltage"_s)),
-              u"Time (c) / Voltage (c), logarithmic / linear, orthonormal"_s);
+    EXPECT_EQ(timeAndVoltage(manager), u"Time (c) / Voltage (c), logarithmic / linear, orthonormal"_s);
 }
 
 TEST(AxesCombinationDuplicates, EqualNamesInOtherCategoriesOrOtherCaseAreNoDuplicates)
@@ -46,8 +50,7 @@ TEST(AxesCombinationDuplicates, EqualNamesInOtherCategoriesOrOtherCaseAreNoDupli
     manager.removeDuplicates();
     EXPECT_EQ(described(manager.getAxesCombinations()), before);
     EXPECT_EQ(manager.getXAxesNames(), QStringList({u"Time"_s, u"TIME"_s}));
-    EXPECT_EQ(described(manager.getAxesCombination(u"Time"_s, u"Voltage"_s)),
-              u"Time (b) / Voltage (b), linear / linear"_s);
+    EXPECT_EQ(timeAndVoltage(manager), u"Time (b) / Voltage (b), linear / linear"_s);
 }
 
 // Known and relied upon: duplicates are told by their text key, in which blanks separate.

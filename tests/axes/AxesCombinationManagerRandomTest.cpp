@@ -137,7 +137,7 @@ public:
         QJsonObject root;
         root.insert(u"Axes combinations"_s, array(30, 4, [this] { return orElse(25, entry()); }));
         // Texts that come from a file are stored in another way than those that come from a program.
-        return m_random.oneIn(2) ? root : jsonObject(QJsonDocument(root).toJson().constData());
+        return m_random.oneIn(2) ? root : jsonObject(QJsonDocument(root).toJson());
     }
 
 private:

@@ -298,11 +298,9 @@ TEST_F(AxesCombinationReader, WithoutAnXReferenceNoYReferenceIsLookedUp)
 
 TEST_F(AxesCombinationReader, WhatTheFirstXReferenceYieldedStaysWhenTheSecondFails)
 {
-    EXPECT_FALSE(readEntry(goodEntryWith(u"X"_s,
-                                         jsonObject(R"({"list": [
+    EXPECT_FALSE(readEntry(goodEntryWith(u"X"_s, jsonValue(R"([
         {"Name": "Time", "Category": "Step"}, {"Name": "Unknown", "Category": "Step"}
-    ]})")
-                                             .value(u"list"_s))));
+    ])"))));
     EXPECT_EQ(m_error, u"Unexpected axes combination X: Unknown (Step)"_s);
     EXPECT_EQ(list(), QStringList({GoodRecord}));
     EXPECT_EQ(m_manager.getYAxesNames(u"Time"_s), QStringList({u"Voltage"_s}));
@@ -310,22 +308,18 @@ TEST_F(AxesCombinationReader, WhatTheFirstXReferenceYieldedStaysWhenTheSecondFai
 
 TEST_F(AxesCombinationReader, WhatTheFirstYReferenceYieldedStaysWhenTheSecondFails)
 {
-    EXPECT_FALSE(readEntry(goodEntryWith(u"Y1/Y2"_s,
-                                         jsonObject(R"({"list": [
+    EXPECT_FALSE(readEntry(goodEntryWith(u"Y1/Y2"_s, jsonValue(R"([
         {"Name": "Voltage"}, {"Name": "Unknown", "Category": "Step"}
-    ]})")
-                                             .value(u"list"_s))));
+    ])"))));
     EXPECT_EQ(m_error, u"Unexpected axes combination Y1/Y2: Unknown (Step)"_s);
     EXPECT_EQ(list(), QStringList({GoodRecord}));
 }
 
 TEST_F(AxesCombinationReader, FailureInTheThirdEntryKeepsWhatWasReadBefore)
 {
-    const QJsonObject third = goodEntryWith(u"Y1/Y2"_s,
-                                            jsonObject(R"({"list": [
+    const QJsonObject third = goodEntryWith(u"Y1/Y2"_s, jsonValue(R"([
         {"Name": "Time", "Category": "Step"}, {"Name": "Voltage", "Category": "Loop"}
-    ]})")
-                                                .value(u"list"_s));
+    ])"));
     EXPECT_FALSE(readSection(section(QJsonArray{goodEntry(), goodEntry(), third, goodEntry()})));
     EXPECT_EQ(m_error, u"Unexpected axes combination Y1/Y2: Voltage (Loop)"_s);
     EXPECT_EQ(list(),

@@ -155,8 +155,7 @@ TEST_F(LifeCycle, DestructionDeletesTheRecords)
 TEST_P(LifeCycleWithBadSection, KeepsTheSectionsBeforeItAndReadsNoneAfterIt)
 {
     const BadSection& bad = GetParam();
-    const QJsonObject section = jsonObject("{\"bad\": " + bad.section + "}");
-    EXPECT_EQ(load(with(configDocument(), bad.key, section.value("bad"_L1))), bad.message);
+    EXPECT_EQ(load(with(configDocument(), bad.key, jsonValue(bad.section))), bad.message);
     EXPECT_EQ(filledSections(config), allSections().first(allSections().indexOf(bad.key)));
 }
 

@@ -62,12 +62,6 @@ protected:
         }
         return result;
     }
-
-private:
-    static QJsonValue jsonValue(const char* text)
-    {
-        return jsonObject((QByteArray("{\"value\": ") + text + "}").constData()).value("value"_L1);
-    }
 };
 
 using Sections = testing::Types<Statistics, RagonePlot>;

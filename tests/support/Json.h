@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -9,11 +10,17 @@
 #include <gtest/gtest.h>
 
 /// The object that the JSON text \p text holds.
-inline QJsonObject jsonObject(const char* text)
+inline QJsonObject jsonObject(const QByteArray& text)
 {
     const QJsonDocument document = QJsonDocument::fromJson(text);
-    EXPECT_TRUE(document.isObject()) << text;
+    EXPECT_TRUE(document.isObject()) << text.constData();
     return document.object();
+}
+
+/// The value of any type that the JSON text \p text holds.
+inline QJsonValue jsonValue(const QByteArray& text)
+{
+    return jsonObject("{\"value\": " + text + '}').value(QLatin1StringView("value"));
 }
 
 /// One value of every JSON type but \p type. Inserting the undefined one removes the key.
