@@ -1,31 +1,13 @@
 #include <axes/AxesCombinationManager.h>
 
 #include <axes/Records.h>
+#include <support/Archive.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr int AnyVersion = 29;
-
-QJsonObject written(const AxesCombinationManager& manager, QJsonObject object = {})
-{
-    cl::archive::ArchiveContext context;
-    EXPECT_TRUE(manager.write(object, AnyVersion, context));
-    return object;
-}
-
-void readInto(AxesCombinationManager& manager, const QJsonObject& object)
-{
-    cl::archive::ArchiveContext context;
-    EXPECT_TRUE(manager.read(object, AnyVersion, context));
-}
-
-} // namespace
 
 TEST(AxesCombinationArchive, WritesTheIdentitiesOfEveryRecordInOrder)
 {
@@ -51,7 +33,7 @@ TEST(AxesCombinationArchive, WritesTheIdentitiesOfEveryRecordInOrder)
 TEST(AxesCombinationArchive, WriteThenReadKeepsIdentitiesAndOrderButNoScales)
 {
     AxesCombinationManager manager = managerOf({record({u"gone"_s, u"c"_s}, {u"y"_s, u"c"_s})});
-    readInto(manager, written(sampleManager()));
+    EXPECT_TRUE(readInto(manager, written(sampleManager())));
     EXPECT_EQ(described(manager.getAxesCombinations()),
               QStringList({
                   u"Time (Step) / Nothing (), linear / linear"_s,
@@ -66,13 +48,11 @@ TEST(AxesCombinationArchive, WriteThenReadKeepsIdentitiesAndOrderButNoScales)
 
 TEST(AxesCombinationArchive, ReadAndWriteDoNotDependOnTheVersion)
 {
-    cl::archive::ArchiveContext context;
+    const QJsonObject object = written(sampleManager());
     for (const int version : {-1, 0, 29, 1000}) {
-        QJsonObject object;
-        EXPECT_TRUE(sampleManager().write(object, version, context));
-        EXPECT_EQ(object, written(sampleManager()));
+        EXPECT_EQ(written(sampleManager(), {}, version), object);
         AxesCombinationManager manager;
-        EXPECT_TRUE(manager.read(object, version, context));
+        EXPECT_TRUE(readInto(manager, object, version));
         EXPECT_EQ(manager.getAxesCombinations(), sampleManager().getAxesCombinations());
     }
 }
@@ -83,7 +63,7 @@ TEST(AxesCombinationArchive, ReadWithoutAListEmptiesTheManager)
         QJsonObject object;
         object.insert(u"axesCombinations"_s, value);
         AxesCombinationManager manager = sampleManager();
-        readInto(manager, object);
+        EXPECT_TRUE(readInto(manager, object));
         EXPECT_TRUE(manager.getAxesCombinations().isEmpty());
         EXPECT_TRUE(manager.getXAxesNames().isEmpty());
     }
@@ -95,7 +75,7 @@ TEST(AxesCombinationArchive, ReadStopsAtTheFirstRecordThatFails)
     const QJsonObject halfGood{{u"axesCombinationFirst"_s, good.value(u"axesCombinationFirst"_s)}};
     for (const QJsonValue& bad : {QJsonValue(halfGood), QJsonValue(QJsonObject()), QJsonValue(3), QJsonValue()}) {
         AxesCombinationManager manager = sampleManager();
-        readInto(manager, {{u"axesCombinations"_s, QJsonArray{good, good, bad, good}}});
+        EXPECT_TRUE(readInto(manager, {{u"axesCombinations"_s, QJsonArray{good, good, bad, good}}}));
         EXPECT_EQ(described(manager.getAxesCombinations()),
                   QStringList(2, u"Time (Step) / Voltage (Step), linear / linear"_s));
     }

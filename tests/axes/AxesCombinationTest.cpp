@@ -1,6 +1,7 @@
 #include <axes/AxesCombination.h>
 
 #include <axes/Records.h>
+#include <support/Archive.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 #include <support/VirtualSlot.h>
@@ -33,8 +34,6 @@ static_assert(std::has_virtual_destructor_v<AxesCombination>);
 static_assert(std::is_copy_constructible_v<AxesCombination>);
 static_assert(std::is_copy_assignable_v<AxesCombination>);
 
-constexpr int AnyVersion = 29;
-
 AxesCombination sample()
 {
     return record({u"Time"_s, u"Step"_s}, {u"Voltage"_s, u"Cycle"_s}, QCPAxis::stLogarithmic, QCPAxis::stLinear, true);
@@ -46,19 +45,6 @@ QJsonObject sampleObject()
         "axesCombinationFirst": {"name": "Time", "category": "Step"},
         "axesCombinationSecond": {"name": "Voltage", "category": "Cycle"}
     })");
-}
-
-QJsonObject written(const AxesCombination& combination, QJsonObject object = {})
-{
-    cl::archive::ArchiveContext context;
-    EXPECT_TRUE(combination.write(object, AnyVersion, context));
-    return object;
-}
-
-bool readInto(AxesCombination& combination, const QJsonObject& object)
-{
-    cl::archive::ArchiveContext context;
-    return combination.read(object, AnyVersion, context);
 }
 
 } // namespace
@@ -212,13 +198,10 @@ TEST(AxesCombination, ReadKeepsTheScalesAndTheFlagOfTheRecord)
 
 TEST(AxesCombination, ReadAndWriteDoNotDependOnTheVersion)
 {
-    cl::archive::ArchiveContext context;
     for (const int version : {-1, 0, 29, 1000}) {
-        QJsonObject object;
-        EXPECT_TRUE(sample().write(object, version, context));
-        EXPECT_EQ(object, sampleObject());
+        EXPECT_EQ(written(sample(), {}, version), sampleObject());
         AxesCombination combination;
-        EXPECT_TRUE(combination.read(object, version, context));
+        EXPECT_TRUE(readInto(combination, sampleObject(), version));
         EXPECT_TRUE(combination == sample());
     }
 }

@@ -1,5 +1,6 @@
 #include <axes/DataStreamCombination.h>
 
+#include <support/Archive.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 #include <support/VirtualSlot.h>
@@ -29,20 +30,11 @@ static_assert(std::has_virtual_destructor_v<DataStreamCombination>);
 static_assert(std::is_copy_constructible_v<DataStreamCombination>);
 static_assert(std::is_copy_assignable_v<DataStreamCombination>);
 
-constexpr int AnyVersion = 29;
-
 const DataStreamCombination sample(u"cx"_s, u"nx"_s, u"cy"_s, u"ny"_s);
 
 QStringList texts(const DataStreamCombination& combination)
 {
     return {combination.getXCategory(), combination.getXName(), combination.getYCategory(), combination.getYName()};
-}
-
-QJsonObject written(const DataStreamCombination& combination, QJsonObject object = {})
-{
-    cl::archive::ArchiveContext context;
-    EXPECT_TRUE(combination.write(object, AnyVersion, context));
-    return object;
 }
 
 QJsonObject sampleObject()
@@ -140,31 +132,28 @@ TEST(DataStreamCombination, WriteOverwritesItsKeysAndLeavesOthersInPlace)
 
 TEST(DataStreamCombination, ReadReplacesAllFourTextsWhateverTheVersion)
 {
-    cl::archive::ArchiveContext context;
     for (const int version : {-1, 0, 29, 1000}) {
         DataStreamCombination combination(u"1"_s, u"2"_s, u"3"_s, u"4"_s);
-        EXPECT_TRUE(combination.read(sampleObject(), version, context));
+        EXPECT_TRUE(readInto(combination, sampleObject(), version));
         EXPECT_EQ(texts(combination), texts(sample));
     }
 }
 
 TEST(DataStreamCombination, ReadOfAnEmptyObjectGivesEmptyTextsAndSucceeds)
 {
-    cl::archive::ArchiveContext context;
     DataStreamCombination combination(sample);
-    EXPECT_TRUE(combination.read({}, AnyVersion, context));
+    EXPECT_TRUE(readInto(combination, {}));
     EXPECT_EQ(texts(combination), texts(DataStreamCombination()));
 }
 
 TEST(DataStreamCombination, ReadTakesAValueThatIsNotAStringAsEmpty)
 {
-    cl::archive::ArchiveContext context;
     for (const QString& key : sampleObject().keys()) {
         for (const QJsonValue& value : valuesOfOtherTypes(QJsonValue::String)) {
             QJsonObject object = sampleObject();
             object.insert(key, value);
             DataStreamCombination combination(sample);
-            EXPECT_TRUE(combination.read(object, AnyVersion, context));
+            EXPECT_TRUE(readInto(combination, object));
             object.insert(key, QString());
             EXPECT_EQ(written(combination), object);
         }

@@ -6,6 +6,7 @@
 #include <items/StatisticsItem.h>
 #include <items/ZFitItem.h>
 
+#include <support/Archive.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 #include <support/VirtualSlot.h>
@@ -146,17 +147,9 @@ protected:
 
     static Record recordOf(const QJsonObject& form, int version = 29)
     {
-        cl::archive::ArchiveContext context;
         Record record;
-        EXPECT_TRUE(record.read(form, version, context));
+        EXPECT_TRUE(readInto(record, form, version));
         return record;
-    }
-
-    static QJsonObject formOf(const Record& record, QJsonObject object = {}, int version = 29)
-    {
-        cl::archive::ArchiveContext context;
-        EXPECT_TRUE(record.write(object, version, context));
-        return object;
     }
 };
 
@@ -171,42 +164,40 @@ TYPED_TEST_SUITE(ArchiveForm, Records);
 TYPED_TEST(ArchiveForm, WritesExactlyWhatItRead)
 {
     const QJsonObject full = fullForm<TypeParam>();
-    EXPECT_EQ(this->formOf(this->recordOf(full)), full);
+    EXPECT_EQ(written(this->recordOf(full)), full);
 }
 
 TYPED_TEST(ArchiveForm, DefaultConstructedIsWrittenWithEveryKeyAndNothingInIt)
 {
-    EXPECT_EQ(this->formOf(TypeParam()), emptyOf(fullForm<TypeParam>()));
+    EXPECT_EQ(written(TypeParam()), emptyOf(fullForm<TypeParam>()));
 }
 
 TYPED_TEST(ArchiveForm, EmptyObjectReadsAsEmptyFieldsAndSucceeds)
 {
-    EXPECT_EQ(this->formOf(this->recordOf({})), emptyOf(fullForm<TypeParam>()));
+    EXPECT_EQ(written(this->recordOf({})), emptyOf(fullForm<TypeParam>()));
 }
 
 TYPED_TEST(ArchiveForm, ReadReplacesEveryField)
 {
-    cl::archive::ArchiveContext context;
     TypeParam record = this->recordOf(fullForm<TypeParam>());
-    EXPECT_TRUE(record.read(fullForm<TypeParam>(), 29, context));
-    EXPECT_EQ(this->formOf(record), fullForm<TypeParam>());
-    EXPECT_TRUE(record.read({}, 29, context));
-    EXPECT_EQ(this->formOf(record), emptyOf(fullForm<TypeParam>()));
+    EXPECT_TRUE(readInto(record, fullForm<TypeParam>()));
+    EXPECT_EQ(written(record), fullForm<TypeParam>());
+    EXPECT_TRUE(readInto(record, {}));
+    EXPECT_EQ(written(record), emptyOf(fullForm<TypeParam>()));
 }
 
 TYPED_TEST(ArchiveForm, MissingOrMistypedFieldReadsAsEmptyAndSpoilsNoOther)
 {
-    cl::archive::ArchiveContext context;
     const QJsonObject full = fullForm<TypeParam>();
     for (const QString& key : full.keys()) {
         for (const QJsonValue& wrong : valuesOfOtherTypes(full.value(key).type())) {
             QJsonObject spoilt = full;
             spoilt.insert(key, wrong);
             TypeParam record = this->recordOf(full);
-            EXPECT_TRUE(record.read(spoilt, 29, context));
+            EXPECT_TRUE(readInto(record, spoilt));
             QJsonObject expected = full;
             expected.insert(key, emptyOf(full.value(key)));
-            EXPECT_EQ(this->formOf(record), expected);
+            EXPECT_EQ(written(record), expected);
         }
     }
 }
@@ -218,14 +209,14 @@ TYPED_TEST(ArchiveForm, WriteOverwritesItsKeysAndLeavesOthersInPlace)
     object.insert(u"other"_s, u"kept"_s);
     QJsonObject expected = fullForm<TypeParam>();
     expected.insert(u"other"_s, u"kept"_s);
-    EXPECT_EQ(this->formOf(this->recordOf(fullForm<TypeParam>()), object), expected);
+    EXPECT_EQ(written(this->recordOf(fullForm<TypeParam>()), object), expected);
 }
 
 TYPED_TEST(ArchiveForm, IsTheSameForEveryVersion)
 {
     const QJsonObject full = fullForm<TypeParam>();
     for (const int version : {-1, 0, 1, 29, 1000}) {
-        EXPECT_EQ(this->formOf(this->recordOf(full, version), {}, version), full);
+        EXPECT_EQ(written(this->recordOf(full, version), {}, version), full);
     }
 }
 
@@ -236,9 +227,9 @@ TYPED_TEST(ArchiveForm, CopiesCarryEveryFieldAndAreIndependent)
     TypeParam assigned;
     assigned = original;
     original = TypeParam();
-    EXPECT_EQ(this->formOf(constructed), fullForm<TypeParam>());
-    EXPECT_EQ(this->formOf(assigned), fullForm<TypeParam>());
-    EXPECT_EQ(this->formOf(original), emptyOf(fullForm<TypeParam>()));
+    EXPECT_EQ(written(constructed), fullForm<TypeParam>());
+    EXPECT_EQ(written(assigned), fullForm<TypeParam>());
+    EXPECT_EQ(written(original), emptyOf(fullForm<TypeParam>()));
 }
 
 #if HAVE_VIRTUAL_SLOTS
@@ -259,14 +250,11 @@ TEST(AAnalysisItem, VirtualOperationsAreDestructorReadWrite)
 
 TEST(AAnalysisItem, ReadsAndWritesWhateverRecordStandsBehindIt)
 {
-    cl::archive::ArchiveContext context;
     PythonGraphAnalysisItem graph;
     AAnalysisItem& item = graph;
-    EXPECT_TRUE(item.read(fullForm<PythonGraphAnalysisItem>(), 29, context));
+    EXPECT_TRUE(readInto(item, fullForm<PythonGraphAnalysisItem>()));
     EXPECT_EQ(graph.getStreamY2(), u"y2"_s);
-    QJsonObject object;
-    EXPECT_TRUE(item.write(object, 29, context));
-    EXPECT_EQ(object, fullForm<PythonGraphAnalysisItem>());
+    EXPECT_EQ(written(item), fullForm<PythonGraphAnalysisItem>());
 }
 
 TEST(AAnalysisItem, AssignmentOfTheBaseCopiesNothing)

@@ -1,6 +1,7 @@
 #include <items/RagonePlotChildItem.h>
 #include <items/StatisticsChildItem.h>
 
+#include <support/Archive.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 
@@ -66,10 +67,9 @@ TYPED_TEST(CurveItem, SettersReplaceOneTextEach)
 
 TYPED_TEST(CurveItem, ReadsItsArchiveKeys)
 {
-    cl::archive::ArchiveContext context;
     TypeParam curve;
-    EXPECT_TRUE(curve.read(
-        jsonObject(R"({"title": "t", "category": "c", "streamX": "x", "streamY": "y", "type": "k"})"), 29, context));
+    EXPECT_TRUE(
+        readInto(curve, jsonObject(R"({"title": "t", "category": "c", "streamX": "x", "streamY": "y", "type": "k"})")));
     EXPECT_EQ(this->texts(curve), QStringList({u"t"_s, u"c"_s, u"x"_s, u"y"_s, u"k"_s}));
 }
 
@@ -88,14 +88,12 @@ TEST(StatisticsChildItem, FlagsAreFalseUntilTheyAreSet)
 
 TEST(StatisticsChildItem, EachFlagHasAnArchiveKey)
 {
-    cl::archive::ArchiveContext context;
     StatisticsChildItem curve;
-    EXPECT_TRUE(curve.read(jsonObject(R"({"isStatisticsEnvelope": true})"), 29, context));
+    EXPECT_TRUE(readInto(curve, jsonObject(R"({"isStatisticsEnvelope": true})")));
     EXPECT_EQ(flags(curve), QList<bool>({true, false}));
-    EXPECT_TRUE(curve.read(jsonObject(R"({"isStatisticsErrorBars": true})"), 29, context));
+    EXPECT_TRUE(readInto(curve, jsonObject(R"({"isStatisticsErrorBars": true})")));
     EXPECT_EQ(flags(curve), QList<bool>({false, true}));
-    QJsonObject object;
-    EXPECT_TRUE(curve.write(object, 29, context));
+    const QJsonObject object = written(curve);
     EXPECT_EQ(object.value(u"isStatisticsEnvelope"_s), QJsonValue(false));
     EXPECT_EQ(object.value(u"isStatisticsErrorBars"_s), QJsonValue(true));
 }

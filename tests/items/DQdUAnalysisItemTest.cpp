@@ -1,5 +1,6 @@
 #include <items/DQdUAnalysisItem.h>
 
+#include <support/Archive.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 
@@ -56,10 +57,8 @@ TEST(DQdUAnalysisItem, SettersReplaceOneFieldEach)
 
 TEST(DQdUAnalysisItem, ReadsItsArchiveKeys)
 {
-    cl::archive::ArchiveContext context;
     DQdUAnalysisItem item;
-    EXPECT_TRUE(
-        item.read(jsonObject(R"({"title": "t", "category": "c", "streamX": "x", "streamY1": "y"})"), 29, context));
+    EXPECT_TRUE(readInto(item, jsonObject(R"({"title": "t", "category": "c", "streamX": "x", "streamY1": "y"})")));
     EXPECT_EQ(fields(item), QStringList({u"t"_s, u"c"_s, u"x"_s, u"y"_s}));
 }
 

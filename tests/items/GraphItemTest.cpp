@@ -1,6 +1,7 @@
 #include <items/RagonePlotItem.h>
 #include <items/StatisticsItem.h>
 
+#include <support/Archive.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 
@@ -14,8 +15,6 @@ using namespace Qt::StringLiterals;
 
 // Statistics graphs and Ragone plots: a title and a list of curves, alike in everything.
 namespace {
-
-constexpr int AnyVersion = 29;
 
 template <typename Graph>
 using CurveOf = typename std::remove_cvref_t<decltype(std::declval<Graph>().getGraphItemsList())>::value_type;
@@ -36,22 +35,6 @@ QStringList curves(const Graph& graph)
         result.append(described(curve));
     }
     return result;
-}
-
-template <typename Graph>
-QJsonObject written(const Graph& graph)
-{
-    cl::archive::ArchiveContext context;
-    QJsonObject object;
-    EXPECT_TRUE(graph.write(object, AnyVersion, context));
-    return object;
-}
-
-template <typename Graph>
-void readInto(Graph& graph, const QJsonObject& object)
-{
-    cl::archive::ArchiveContext context;
-    EXPECT_TRUE(graph.read(object, AnyVersion, context));
 }
 
 const QString NoCurve = u":  /  (), "_s;
@@ -248,7 +231,7 @@ TYPED_TEST(GraphItem, ConfigurationDoesNotReadArchiveKeys)
 TYPED_TEST(GraphItem, ArchiveReplacesTitleAndCurves)
 {
     TypeParam graph = this->configured(u"Energy"_s, section());
-    readInto(graph, written(this->configured(u"Capacity"_s, section())));
+    EXPECT_TRUE(readInto(graph, written(this->configured(u"Capacity"_s, section()))));
     EXPECT_EQ(graph.getTitle(), u"Capacity"_s);
     EXPECT_EQ(curves(graph), CapacityCurves);
 }
@@ -256,7 +239,7 @@ TYPED_TEST(GraphItem, ArchiveReplacesTitleAndCurves)
 TYPED_TEST(GraphItem, ArchiveWithoutCurvesEmptiesTheList)
 {
     TypeParam graph = this->configured(u"Energy"_s, section());
-    readInto(graph, jsonObject(R"({"title": "archived"})"));
+    EXPECT_TRUE(readInto(graph, jsonObject(R"({"title": "archived"})")));
     EXPECT_EQ(graph.getTitle(), u"archived"_s);
     EXPECT_TRUE(graph.getGraphItemsList().isEmpty());
 }
@@ -264,7 +247,7 @@ TYPED_TEST(GraphItem, ArchiveWithoutCurvesEmptiesTheList)
 TYPED_TEST(GraphItem, ArchivedElementThatIsNoObjectIsAnEmptyCurve)
 {
     TypeParam graph;
-    readInto(graph, jsonObject(R"({"graphItemsList": [1, {"title": "a", "streamX": "x"}, null, "a"]})"));
+    EXPECT_TRUE(readInto(graph, jsonObject(R"({"graphItemsList": [1, {"title": "a", "streamX": "x"}, null, "a"]})")));
     EXPECT_EQ(curves(graph), QStringList({NoCurve, u"a: x /  (), "_s, NoCurve, NoCurve}));
 }
 
@@ -276,7 +259,7 @@ TYPED_TEST(GraphItem, ReadsTheArchiveOfTheOtherKindOfGraph)
     ragonePlot.readGraphItem(u"Capacity"_s, section());
     for (const QJsonObject& archive : {written(statistics), written(ragonePlot)}) {
         TypeParam graph;
-        readInto(graph, archive);
+        EXPECT_TRUE(readInto(graph, archive));
         EXPECT_EQ(graph.getTitle(), u"Capacity"_s);
         EXPECT_EQ(curves(graph), CapacityCurves);
     }
@@ -292,7 +275,7 @@ TEST(StatisticsItem, FlagsOfEveryCurveComeBackFromTheArchive)
         graph.addGraphItem(curve);
     }
     StatisticsItem read;
-    readInto(read, written(graph));
+    EXPECT_TRUE(readInto(read, written(graph)));
     ASSERT_EQ(read.getGraphItemsList().size(), 4);
     for (int flags = 0; flags < 4; ++flags) {
         EXPECT_EQ(read.getGraphItemsList().at(flags).getIsStatisticsEnvelope(), (flags & 1) != 0);

@@ -1,5 +1,6 @@
 #include <items/ProcessedDataItem.h>
 
+#include <support/Archive.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 
@@ -75,20 +76,17 @@ TEST(ProcessedDataItem, SettersReplaceOneFieldEach)
 
 TEST(ProcessedDataItem, ReadsItsArchiveKeys)
 {
-    cl::archive::ArchiveContext context;
     ProcessedDataItem item;
-    EXPECT_TRUE(item.read(jsonObject(R"({"title": "t", "category": "c", "streamX": "x", "streamY1": "y1",
-                                         "streamY2": "y2", "processedYAxis": ["q", "p"]})"),
-                          29, context));
+    EXPECT_TRUE(readInto(item, jsonObject(R"({"title": "t", "category": "c", "streamX": "x", "streamY1": "y1",
+                                        "streamY2": "y2", "processedYAxis": ["q", "p"]})")));
     EXPECT_EQ(texts(item), QStringList({u"t"_s, u"c"_s, u"x"_s, u"y1"_s, u"y2"_s}));
     EXPECT_EQ(item.getProcessedStreamsY(), QStringList({u"q"_s, u"p"_s}));
 }
 
 TEST(ProcessedDataItem, ArchiveWithoutProcessedAxisGivesAnEmptyList)
 {
-    cl::archive::ArchiveContext context;
     ProcessedDataItem item = configured(entry());
-    EXPECT_TRUE(item.read(jsonObject(R"({"title": "t"})"), 29, context));
+    EXPECT_TRUE(readInto(item, jsonObject(R"({"title": "t"})")));
     EXPECT_TRUE(item.getProcessedStreamsY().isEmpty());
 }
 

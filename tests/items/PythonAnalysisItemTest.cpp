@@ -2,6 +2,7 @@
 #include <items/PythonGraphAnalysisItem.h>
 #include <items/PythonTableAnalysisItem.h>
 
+#include <support/Archive.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 
@@ -53,18 +54,8 @@ QJsonObject archived()
 template <typename Item>
 Item readFrom(const QJsonObject& object, Item item = {})
 {
-    cl::archive::ArchiveContext context;
-    EXPECT_TRUE(item.read(object, 29, context));
+    EXPECT_TRUE(readInto(item, object));
     return item;
-}
-
-template <typename Item>
-QJsonObject written(const Item& item)
-{
-    cl::archive::ArchiveContext context;
-    QJsonObject object;
-    EXPECT_TRUE(item.write(object, 29, context));
-    return object;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include <items/ZFitItem.h>
 
+#include <support/Archive.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 
@@ -36,9 +37,8 @@ QStringList elements(const QString& circuit)
 
 QString circuitRead(const QString& archived)
 {
-    cl::archive::ArchiveContext context;
     ZFitItem item;
-    EXPECT_TRUE(item.read({{u"equivalentCircuit"_s, archived}}, 29, context));
+    EXPECT_TRUE(readInto(item, {{u"equivalentCircuit"_s, archived}}));
     return item.getEquivalentCircuit();
 }
 
@@ -66,10 +66,9 @@ TEST(ZFitItem, SettersTakeTextsAsTheyAre)
 
 TEST(ZFitItem, ReadsItsArchiveKeys)
 {
-    cl::archive::ArchiveContext context;
     ZFitItem item;
-    EXPECT_TRUE(item.read(jsonObject(R"({"equivalentCircuit": "R1", "viscosity": "a", "rotationRate": "alpha"})"), 29,
-                          context));
+    EXPECT_TRUE(
+        readInto(item, jsonObject(R"({"equivalentCircuit": "R1", "viscosity": "a", "rotationRate": "alpha"})")));
     EXPECT_EQ(item.getEquivalentCircuit(), u"R1"_s);
     EXPECT_EQ(item.getViscosity(), u"a"_s);
     EXPECT_EQ(item.getRotationRate(), u"alpha"_s);
@@ -84,15 +83,12 @@ TEST(ZFitItem, ReadTurnsEveryLowerCaseLatinAOfTheCircuitIntoAlpha)
 
 TEST(ZFitItem, WriteTurnsNothingBack)
 {
-    cl::archive::ArchiveContext context;
-    QJsonObject object;
-    EXPECT_TRUE(withCircuit(u"Ra+Q\u03B1"_s).write(object, 29, context));
+    const QJsonObject object = written(withCircuit(u"Ra+Q\u03B1"_s));
     EXPECT_EQ(object.value(u"equivalentCircuit"_s), QJsonValue(u"Ra+Q\u03B1"_s));
     ZFitItem item;
-    EXPECT_TRUE(item.read(object, 29, context));
+    EXPECT_TRUE(readInto(item, object));
     EXPECT_EQ(item.getEquivalentCircuit(), u"R\u03B1+Q\u03B1"_s);
-    EXPECT_TRUE(item.write(object, 29, context));
-    EXPECT_EQ(object.value(u"equivalentCircuit"_s), QJsonValue(u"R\u03B1+Q\u03B1"_s));
+    EXPECT_EQ(written(item).value(u"equivalentCircuit"_s), QJsonValue(u"R\u03B1+Q\u03B1"_s));
 }
 
 TEST(ZFitItem, ElementsAreThePartsBetweenOperatorsAndParentheses)
