@@ -1,6 +1,6 @@
 #include <batterydata/ClConfigDataArrayManager.h>
 #include <datastorage/Converter.h>
-#include <platform/TestFile.h>
+#include <support/DocumentFile.h>
 #include <support/QtPrinters.h>
 
 #include <gtest/gtest.h>
@@ -25,7 +25,7 @@ QByteArray document(const QByteArray& arrays)
 // Reads a catalogue that must be refused, and checks that the one before it is still there.
 QString errorOf(const QByteArray& content)
 {
-    const TestFile file(content);
+    const DocumentFile file(content);
     ClConfigDataArrayManager catalogue;
     const ClConfigDataArray* kept = catalogue.append(std::make_unique<ClConfigDataArray>());
     QString error;
@@ -39,7 +39,7 @@ QString errorOf(const QByteArray& content)
 
 TEST(CatalogueFile, GivesArraysWithAllTheirProperties)
 {
-    const TestFile file(document(R"({"Name": "Specific Charge", "Parameter": "Specific charge", "Unit": "mAh/g",
+    const DocumentFile file(document(R"({"Name": "Specific Charge", "Parameter": "Specific charge", "Unit": "mAh/g",
         "Type": "Float", "Export": "On demand", "Required": true, "Machine name": "specific_charge",
         "Description": "Charge per mass", "Formula": "Charge / mass"})"));
     ClConfigDataArrayManager catalogue;
@@ -64,7 +64,7 @@ TEST(CatalogueFile, GivesArraysWithAllTheirProperties)
 
 TEST(CatalogueFile, ANameIsEnoughForAnArray)
 {
-    const TestFile file(document(R"({"Name": "Count"})"));
+    const DocumentFile file(document(R"({"Name": "Count"})"));
     ClConfigDataArrayManager catalogue;
     QString error;
     ASSERT_TRUE(catalogue.readCatalogue(file.path(), error)) << qPrintable(error);
@@ -79,7 +79,7 @@ TEST(CatalogueFile, ANameIsEnoughForAnArray)
 
 TEST(CatalogueFile, OfARepeatedNameTheFirstCounts)
 {
-    const TestFile file(document(R"({"Name": "Count", "Description": "first"}, {"Name": "Count"})"));
+    const DocumentFile file(document(R"({"Name": "Count", "Description": "first"}, {"Name": "Count"})"));
     ClConfigDataArrayManager catalogue;
     QString error;
     ASSERT_TRUE(catalogue.readCatalogue(file.path(), error)) << qPrintable(error);
@@ -89,7 +89,7 @@ TEST(CatalogueFile, OfARepeatedNameTheFirstCounts)
 
 TEST(CatalogueFile, MayBeEmpty)
 {
-    const TestFile file(R"({"Version": 1, "Categories": []})");
+    const DocumentFile file(R"({"Version": 1, "Categories": []})");
     ClConfigDataArrayManager catalogue;
     catalogue.append(std::make_unique<ClConfigDataArray>());
     QString error;

@@ -1,5 +1,5 @@
 #include <datastorage/JsonUtils.h>
-#include <platform/TestFile.h>
+#include <support/DocumentFile.h>
 #include <support/QtPrinters.h>
 
 #include <QJsonArray>
@@ -32,7 +32,7 @@ Opened open(const QString& path)
 
 Opened openContent(const QByteArray& content)
 {
-    const TestFile file(content);
+    const DocumentFile file(content);
     Opened opened = open(file.path());
     opened.error.replace(file.path(), u"PATH"_qs);
     return opened;
@@ -86,7 +86,7 @@ TEST(OpenJsonDocument, OfARepeatedKeyTheLastCounts)
 
 TEST(OpenJsonDocument, RefusesAMissingFile)
 {
-    const TestFile file("{}");
+    const DocumentFile file("{}");
     const QString path = file.directory() + u"/missing.json"_qs;
     const Opened opened = open(path);
     EXPECT_FALSE(opened.isRead);
@@ -103,14 +103,14 @@ TEST(OpenJsonDocument, RefusesAnEmptyPath)
 
 TEST(OpenJsonDocument, RefusesADirectory)
 {
-    const TestFile file("{}");
+    const DocumentFile file("{}");
     expectRefused(open(file.directory()), u"Cannot open \"%1\": it is a directory"_qs.arg(file.directory()));
 }
 
 TEST(OpenJsonDocument, RefusesAFileWithoutPermission)
 {
 #ifdef Q_OS_UNIX
-    const TestFile file("{}");
+    const DocumentFile file("{}");
     const uid_t user = geteuid();
     constexpr uid_t nobody = 65534;
     ASSERT_TRUE(QFile::setPermissions(file.directory(),
@@ -223,7 +223,7 @@ TEST(OpenJsonDocument, RefusesTextAfterTheObject)
 
 TEST(OpenJsonDocument, APathWithPlaceholdersIsNamedAsItIs)
 {
-    const TestFile file("{}");
+    const DocumentFile file("{}");
     const QString path = file.directory() + u"/%1 %2.json"_qs;
     ASSERT_TRUE(QFile::copy(file.path(), path));
     expectRead(open(path), {});

@@ -1,13 +1,6 @@
 #include <support/ConfigDocument.h>
 #include <support/Json.h>
 
-#include <QFile>
-#include <QJsonDocument>
-
-#include <gtest/gtest.h>
-
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -81,11 +74,6 @@ constexpr auto Document = R"({
     "Debug": { "importDialogDisplayClIds": true, "saveImportedParquetFiles": true, "saveZFitInputData": true }
 })";
 
-QByteArray toBytes(const QJsonObject& document)
-{
-    return QJsonDocument(document).toJson();
-}
-
 } // namespace
 
 ConfigDocumentCatalogue::ConfigDocumentCatalogue()
@@ -116,26 +104,4 @@ QJsonObject without(QJsonObject document, const QString& key)
 {
     document.remove(key);
     return document;
-}
-
-DocumentFile::DocumentFile(const QByteArray& bytes)
-    : m_path(m_directory.filePath(u"UIConfig.json"_s))
-{
-    write(bytes);
-}
-
-DocumentFile::DocumentFile(const QJsonObject& document)
-    : DocumentFile(toBytes(document))
-{
-}
-
-void DocumentFile::write(const QByteArray& bytes) const
-{
-    QFile file(m_path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()) << m_path.toStdString();
-}
-
-void DocumentFile::write(const QJsonObject& document) const
-{
-    write(toBytes(document));
 }

@@ -1,11 +1,10 @@
 #pragma once
 
+#include <support/DocumentFile.h>
 #include <support/TestCatalogue.h>
 
-#include <QByteArray>
 #include <QJsonObject>
 #include <QString>
-#include <QTemporaryDir>
 
 /// \file ConfigDocument.h
 /// Configuration documents for tests, and the files that hold them.
@@ -26,21 +25,3 @@ QJsonObject with(QJsonObject document, const QString& key, const QJsonValue& val
 
 /// \p document without \p key.
 QJsonObject without(QJsonObject document, const QString& key);
-
-/// A file in a temporary directory of its own, removed at the end of its life.
-class DocumentFile
-{
-public:
-    explicit DocumentFile(const QByteArray& bytes);
-    explicit DocumentFile(const QJsonObject& document);
-
-    const QString& path() const { return m_path; }
-
-    /// Replaces what the file holds.
-    void write(const QByteArray& bytes) const;
-    void write(const QJsonObject& document) const;
-
-private:
-    QTemporaryDir m_directory;
-    QString m_path;
-};
