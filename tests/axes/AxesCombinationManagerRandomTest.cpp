@@ -1,11 +1,12 @@
 #include <axes/AxesCombinationManager.h>
 
 #include <axes/LiteralManager.h>
-#include <axes/Random.h>
 #include <axes/Records.h>
+#include <support/DocumentMutator.h>
 #include <support/FakeDataStream.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
+#include <support/Random.h>
 #include <support/TestCatalogue.h>
 
 #include <gtest/gtest.h>
@@ -94,7 +95,7 @@ void changeByArchive(Random& random, AxesCombinationManager& manager, LiteralMan
     QJsonArray array = object.value(u"axesCombinations"_s).toArray();
     EXPECT_EQ(array.size(), literal.getAxesCombinations().size());
     if (!array.isEmpty() && random.oneIn(2)) {
-        array.replace(random.below(static_cast<int>(array.size())), random.oneIn(2) ? QJsonValue(1) : QJsonValue());
+        array.replace(random.below(array.size()), random.oneIn(2) ? QJsonValue(1) : QJsonValue());
     }
     object.insert(u"axesCombinations"_s, random.oneIn(10) ? QJsonValue() : QJsonValue(array));
     both(manager, literal, [&](auto& target) { target.read(object, AnyVersion, context); });
@@ -123,78 +124,48 @@ void changeAtRandom(Random& random, AxesCombinationManager& manager, LiteralMana
     }
 }
 
-/// Makes sections "Axes combinations" that are mostly right and wrong in every way that JSON allows.
-class RandomDocument
-{
-public:
-    explicit RandomDocument(Random& random)
-        : m_random(random)
-    {
-    }
-
-    QJsonObject make()
-    {
-        QJsonObject root;
-        root.insert(u"Axes combinations"_s, array(30, 4, [this] { return orElse(25, entry()); }));
-        // Texts that come from a file are stored in another way than those that come from a program.
-        return m_random.oneIn(2) ? root : jsonObject(QJsonDocument(root).toJson());
-    }
-
-private:
-    QJsonValue anything() { return m_random.of(valuesOfOtherTypes(QJsonValue::Object)); }
-
-    /// Any value but an object once in \p chances, \p value otherwise.
-    QJsonValue orElse(int chances, const QJsonValue& value) { return m_random.oneIn(chances) ? anything() : value; }
-
-    template <typename Element>
-    QJsonValue array(int chances, int limit, const Element& element)
-    {
-        QJsonArray result;
-        for (int left = m_random.below(limit); left > 0; --left) {
-            result.append(element());
-        }
-        return orElse(chances, result);
-    }
-
-    QJsonObject entry()
-    {
-        QJsonObject result;
-        result.insert(u"X"_s, array(15, 4, [this] { return reference(); }));
-        result.insert(u"Y1/Y2"_s, array(15, 4, [this] { return reference(); }));
-        result.insert(u"DEFAULT_SCALE_X"_s, orElse(15, word(u"LINEAR"_s)));
-        result.insert(u"DEFAULT_SCALE_Y"_s, orElse(15, word(u"LINEAR"_s)));
-        result.insert(u"ORTHONORMAL_AXIS"_s, orElse(15, word(u"TRUE"_s)));
-        return result;
-    }
-
-    QString word(const QString& right)
-    {
-        return m_random.oneIn(30) ? QString() : m_random.oneIn(3) ? right.toLower() : right;
-    }
-
-    QJsonValue reference()
-    {
-        const TestCatalogue::Array& array = m_random.of(Arrays);
-        const QString category = m_random.oneIn(10) ? m_random.of(Arrays).category : array.category;
-        QJsonObject result;
-        result.insert(u"Name"_s, orElse(20, m_random.oneIn(20) ? u"%2 unknown %1"_s : array.name));
-        result.insert(u"Category"_s, m_random.oneIn(2) ? QJsonValue(category) : anything());
-        return orElse(20, result);
-    }
-
-public:
-    static const QList<TestCatalogue::Array> Arrays;
-
-private:
-    Random& m_random;
-};
-
-const QList<TestCatalogue::Array> RandomDocument::Arrays{
+const QList<TestCatalogue::Array> Arrays{
     {u"Time"_s, u"Step"_s},     {u"Voltage"_s, u"Cycle"_s}, {u"Time"_s, u"Cycle"_s}, {u"Voltage"_s, u"Step"_s},
     {u"Time"_s, u"Loop"_s},     {u"Charge"_s, u"Loop"_s},   {u"text"_s, u"Step"_s},  {u"%1"_s, u"text"_s},
     {u"Time"_s, u""_s},         {u"Voltage"_s, u""_s},      {u""_s, u"Cycle"_s},     {u"%2"_s, u"Step %1"_s},
     {u"Ω µm"_s, u"Zyklus ä"_s}, {u"Time"_s, u"Zyklus ä"_s},
 };
+
+QJsonObject randomReference(Random& random)
+{
+    const TestCatalogue::Array& array = random.of(Arrays);
+    QJsonObject reference{{u"Name"_s, random.oneIn(20) ? u"%2 unknown %1"_s : array.name}};
+    if (random.oneIn(2)) {
+        reference.insert(u"Category"_s, random.oneIn(10) ? random.of(Arrays).category : array.category);
+    }
+    return reference;
+}
+
+QJsonArray randomReferences(Random& random)
+{
+    QJsonArray references;
+    for (int left = random.below(4); left > 0; --left) {
+        references.append(randomReference(random));
+    }
+    return references;
+}
+
+/// Entries of the section "Axes combinations" in which every value has its type.
+QJsonArray randomEntries(Random& random)
+{
+    const auto word = [&](const QString& right) { return random.oneIn(3) ? right.toLower() : right; };
+    QJsonArray entries;
+    for (int left = random.below(4); left > 0; --left) {
+        entries.append(QJsonObject{
+            {u"X"_s, randomReferences(random)},
+            {u"Y1/Y2"_s, randomReferences(random)},
+            {u"DEFAULT_SCALE_X"_s, word(u"LINEAR"_s)},
+            {u"DEFAULT_SCALE_Y"_s, word(u"LINEAR"_s)},
+            {u"ORTHONORMAL_AXIS"_s, word(u"TRUE"_s)},
+        });
+    }
+    return entries;
+}
 
 } // namespace
 
@@ -253,14 +224,19 @@ TEST(AxesCombinationManagerRandom, ManyNamesAreToldApart)
 TEST(AxesCombinationManagerRandom, EverySectionIsReadAsTheLiteralManagerReadsIt)
 {
     TestCatalogue catalogue;
-    for (const TestCatalogue::Array& array : RandomDocument::Arrays) {
+    for (const TestCatalogue::Array& array : Arrays) {
         TestCatalogue::add(array);
     }
     Random random(3);
-    RandomDocument document(random);
+    DocumentMutator mutator(3, {u"Time"_s, u"Cycle"_s, u"Zyklus ä"_s, u"%1 %2"_s});
     QMap<QString, int> outcomes;
     for (int i = 0; i < 8000; ++i) {
-        const QJsonObject root = document.make();
+        const QJsonValue entries = randomEntries(random);
+        QJsonObject root{{u"Axes combinations"_s, random.oneIn(2) ? entries : mutator.mutated(entries)}};
+        if (random.oneIn(2)) {
+            // Texts that come from a file are stored in another way than those that come from a program.
+            root = jsonObject(QJsonDocument(root).toJson());
+        }
         AxesCombinationManager manager;
         LiteralManager literal;
         QString error = u"untouched"_s;

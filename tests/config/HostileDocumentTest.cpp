@@ -3,13 +3,13 @@
 
 #include <config/ConfigRepresentation.h>
 #include <config/UIConfigTest.h>
+#include <support/DocumentMutator.h>
 
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <random>
 #include <utility>
 #include <vector>
 
@@ -283,62 +283,6 @@ INSTANTIATE_TEST_SUITE_P(All, ReplacedSection, testing::ValuesIn(replacements())
     return QString(name).remove(u' ').remove(u'_').toStdString();
 });
 
-// Any value anywhere in the document replaced by one of another type.
-
-namespace {
-
-class Mutator
-{
-public:
-    explicit Mutator(unsigned seed)
-        : m_random(seed)
-    {
-    }
-
-    /// \p value with one or a few of the values in it replaced, itself included.
-    QJsonValue mutated(const QJsonValue& value)
-    {
-        if (const QJsonObject object = value.toObject(); !object.isEmpty() && below(12) != 0) {
-            const QString key = object.keys().at(below(object.size()));
-            return with(object, key, mutated(object.value(key)));
-        }
-        if (QJsonArray array = value.toArray(); !array.isEmpty() && below(12) != 0) {
-            const qsizetype index = below(array.size());
-            array.replace(index, mutated(array.at(index)));
-            return array;
-        }
-        return wrongValue();
-    }
-
-private:
-    qsizetype below(qsizetype limit) { return std::uniform_int_distribution<qsizetype>(0, limit - 1)(m_random); }
-
-    QJsonValue wrongValue()
-    {
-        const QList<QJsonValue> values = {
-            QJsonValue::Null,
-            0,
-            -1,
-            29.5,
-            1e300,
-            true,
-            false,
-            u""_s,
-            u"\u0001%1 %2"_s,
-            u"TRUE"_s,
-            QJsonArray(),
-            QJsonArray{1, u"two"_s, QJsonArray{QJsonObject()}},
-            QJsonObject(),
-            QJsonObject{{u"Name"_s, 7}, {u"X"_s, QJsonArray{3}}, {u""_s, true}},
-        };
-        return values[below(values.size())];
-    }
-
-    std::mt19937 m_random;
-};
-
-} // namespace
-
 TEST_F(HostileDocument, AnyMutationLoadsOrSaysWhyNot)
 {
     // Whatever goes wrong, it is one of these.
@@ -360,14 +304,13 @@ TEST_F(HostileDocument, AnyMutationLoadsOrSaysWhyNot)
         u"Color "_s,
         u"Default colors is not an object node"_s,
     };
-    Mutator mutator(29);
+    DocumentMutator mutator(29, {u"Voltage"_s, u"Cycle"_s, u"Potentiostat"_s, u"%1 %2"_s});
     const QJsonObject good = configDocument();
     int failures = 0;
     constexpr int Mutations = 3000;
     for (int i = 0; i < Mutations; ++i) {
         const QString key = good.keys().at(i % good.size());
-        const QJsonObject bad = with(good, key, mutator.mutated(good.value(key)));
-        const QString result = load(bad);
+        const QString result = load(with(good, key, mutator.mutated(good.value(key))));
         if (result != Success) {
             ++failures;
             EXPECT_TRUE(std::any_of(reasons.begin(), reasons.end(),

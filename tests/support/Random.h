@@ -2,6 +2,7 @@
 
 #include <QList>
 
+#include <cstddef>
 #include <random>
 
 /// Random choices that are the same on every machine: the standard library's distributions are not.
@@ -13,13 +14,14 @@ public:
     {
     }
 
-    int below(int limit) { return static_cast<int>(m_engine() % static_cast<unsigned>(limit)); }
+    /// From 0, each number as likely as the others.
+    int below(qsizetype limit) { return static_cast<int>(m_engine() % static_cast<std::size_t>(limit)); }
     bool oneIn(int chances) { return below(chances) == 0; }
 
     template <typename Value>
     const Value& of(const QList<Value>& values)
     {
-        return values.at(below(static_cast<int>(values.size())));
+        return values.at(below(values.size()));
     }
 
 private:
