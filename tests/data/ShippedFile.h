@@ -1,0 +1,23 @@
+#pragma once
+
+#include <datastorage/JsonUtils.h>
+
+#include <QJsonObject>
+#include <QString>
+
+#include <gtest/gtest.h>
+
+/// The path of a file in data/.
+inline QString shippedPath(const QString& name)
+{
+    return QStringLiteral(SHIPPED_DATA_DIRECTORY "/") + name;
+}
+
+/// The object that a file in data/ holds.
+inline QJsonObject shippedObject(const QString& name)
+{
+    QString error;
+    QJsonObject root;
+    EXPECT_TRUE(cl::datastorage::JsonUtils::openJsonDocument(shippedPath(name), error, root)) << error.toStdString();
+    return root;
+}
