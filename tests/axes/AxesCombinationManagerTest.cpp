@@ -11,7 +11,6 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
-using cl::dataprocess::IDataStream;
 
 namespace {
 
@@ -21,23 +20,11 @@ static_assert(
     std::is_same_v<decltype(std::declval<const Manager&>().getAxesCombinations()), const QList<AxesCombination>&>);
 static_assert(
     std::is_same_v<decltype(std::declval<const Manager&>().getAxesCombinations(QString())), QList<AxesCombination>>);
-static_assert(std::is_same_v<decltype(std::declval<Manager&>().append(AxesCombination())), void>);
 static_assert(std::is_same_v<decltype(&Manager::getAxesCombination),
                              AxesCombination (Manager::*)(const QString&, const QString&) const>);
 static_assert(std::is_same_v<decltype(&Manager::getXAxesNames), QList<QString> (Manager::*)() const>);
 static_assert(std::is_same_v<decltype(&Manager::getYAxesNames), QList<QString> (Manager::*)(const QString&) const>);
-static_assert(
-    std::is_same_v<decltype(&Manager::isRepresentationValid), bool (Manager::*)(const ConfigRepresentation*) const>);
-static_assert(std::is_same_v<decltype(&Manager::deleteAll), void (Manager::*)()>);
-static_assert(
-    std::is_same_v<decltype(&Manager::addCombinationsFromStreams), void (Manager::*)(const QList<IDataStream*>&, int)>);
-static_assert(std::is_same_v<decltype(&Manager::removeDuplicates), void (Manager::*)()>);
-static_assert(
-    std::is_same_v<decltype(&Manager::readAxesCombinations), bool (Manager::*)(const QJsonObject&, QString&)>);
-static_assert(std::is_same_v<decltype(&Manager::readAxesCombination), bool (Manager::*)(const QJsonObject&, QString&)>);
 static_assert(std::has_virtual_destructor_v<Manager>);
-static_assert(std::is_copy_constructible_v<Manager>);
-static_assert(std::is_copy_assignable_v<Manager>);
 
 ConfigRepresentation representation(const QString& x, const QString& y1, const QString& y2)
 {

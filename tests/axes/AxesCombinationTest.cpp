@@ -24,15 +24,9 @@ static_assert(std::is_same_v<decltype(&AxesCombination::getDefaultScaleX), QCPAx
 static_assert(std::is_same_v<decltype(&AxesCombination::getDefaultScaleY), QCPAxis::ScaleType (AxesCombination::*)()>);
 static_assert(!std::is_invocable_v<decltype(&AxesCombination::getDefaultScaleX), const AxesCombination&>);
 static_assert(!std::is_invocable_v<decltype(&AxesCombination::getDefaultScaleY), const AxesCombination&>);
-static_assert(std::is_same_v<decltype(&AxesCombination::isOrthonormal), bool (AxesCombination::*)() const>);
 static_assert(std::is_same_v<decltype(&AxesCombination::getDataStreamCombination),
                              DataStreamCombination (AxesCombination::*)() const>);
-static_assert(std::is_same_v<decltype(&AxesCombination::isValid), bool (AxesCombination::*)() const>);
-static_assert(
-    std::is_same_v<decltype(&AxesCombination::operator==), bool (AxesCombination::*)(const AxesCombination&) const>);
 static_assert(std::has_virtual_destructor_v<AxesCombination>);
-static_assert(std::is_copy_constructible_v<AxesCombination>);
-static_assert(std::is_copy_assignable_v<AxesCombination>);
 
 AxesCombination sample()
 {

@@ -14,21 +14,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Getter = const QString& (DataStreamCombination::*)() const;
-using Setter = void (DataStreamCombination::*)(const QString&);
 
 static_assert(std::is_same_v<decltype(&DataStreamCombination::getXName), Getter>);
 static_assert(std::is_same_v<decltype(&DataStreamCombination::getXCategory), Getter>);
 static_assert(std::is_same_v<decltype(&DataStreamCombination::getYName), Getter>);
 static_assert(std::is_same_v<decltype(&DataStreamCombination::getYCategory), Getter>);
-static_assert(std::is_same_v<decltype(&DataStreamCombination::setXName), Setter>);
-static_assert(std::is_same_v<decltype(&DataStreamCombination::setXCategory), Setter>);
-static_assert(std::is_same_v<decltype(&DataStreamCombination::setYName), Setter>);
-static_assert(std::is_same_v<decltype(&DataStreamCombination::setYCategory), Setter>);
 static_assert(
     std::is_same_v<decltype(&DataStreamCombination::toString), const QString (DataStreamCombination::*)() const>);
 static_assert(std::has_virtual_destructor_v<DataStreamCombination>);
-static_assert(std::is_copy_constructible_v<DataStreamCombination>);
-static_assert(std::is_copy_assignable_v<DataStreamCombination>);
 
 const DataStreamCombination sample(u"cx"_s, u"nx"_s, u"cy"_s, u"ny"_s);
 

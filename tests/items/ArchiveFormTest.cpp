@@ -141,9 +141,6 @@ class ArchiveForm : public testing::Test
 {
 protected:
     static_assert(std::has_virtual_destructor_v<Record>);
-    static_assert(std::is_default_constructible_v<Record>);
-    static_assert(std::is_copy_constructible_v<Record>);
-    static_assert(std::is_copy_assignable_v<Record>);
 
     static Record recordOf(const QJsonObject& form, int version = 29)
     {

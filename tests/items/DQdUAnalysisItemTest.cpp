@@ -22,8 +22,6 @@ static_assert(std::is_same_v<decltype(&DQdUAnalysisItem::getStreamX), Getter>);
 static_assert(std::is_same_v<decltype(&DQdUAnalysisItem::getStreamY1), Getter>);
 static_assert(
     std::is_same_v<decltype(&DQdUAnalysisItem::getAxesCombination), AxesCombination (DQdUAnalysisItem::*)() const>);
-static_assert(
-    std::is_same_v<decltype(&DQdUAnalysisItem::readGraphItem), void (DQdUAnalysisItem::*)(const QJsonObject&)>);
 
 QStringList fields(const DQdUAnalysisItem& item)
 {

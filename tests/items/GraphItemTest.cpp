@@ -66,8 +66,6 @@ protected:
         std::is_same_v<decltype(&Graph::getGraphItemFromTitle), const Curve (Graph::*)(const QString&) const>);
     static_assert(std::is_same_v<decltype(&Graph::getGraphItemsTitleList), QList<QString> (Graph::*)() const>);
     static_assert(std::is_same_v<decltype(&Graph::getGraphItemsList), const QList<Curve>& (Graph::*)() const>);
-    static_assert(std::is_same_v<decltype(&Graph::addGraphItem), void (Graph::*)(const Curve&)>);
-    static_assert(std::is_same_v<decltype(&Graph::readGraphItem), void (Graph::*)(const QString&, const QJsonObject&)>);
 
     /// A curve that tells apart which of two with the same title it is.
     static Curve curve(const QString& title, const QString& x)

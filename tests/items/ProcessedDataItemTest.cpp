@@ -23,12 +23,8 @@ static_assert(std::is_same_v<decltype(&ProcessedDataItem::getStreamY1), Getter>)
 static_assert(std::is_same_v<decltype(&ProcessedDataItem::getStreamY2), Getter>);
 static_assert(
     std::is_same_v<decltype(&ProcessedDataItem::getProcessedStreamsY), QList<QString> (ProcessedDataItem::*)() const>);
-static_assert(std::is_same_v<decltype(&ProcessedDataItem::setProcessedStreamsY),
-                             void (ProcessedDataItem::*)(const QList<QString>&)>);
 static_assert(
     std::is_same_v<decltype(&ProcessedDataItem::getAxesCombination), AxesCombination (ProcessedDataItem::*)() const>);
-static_assert(
-    std::is_same_v<decltype(&ProcessedDataItem::readGraphItem), void (ProcessedDataItem::*)(const QJsonObject&)>);
 
 QStringList texts(const ProcessedDataItem& item)
 {
