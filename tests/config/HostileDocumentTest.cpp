@@ -166,7 +166,9 @@ TEST_F(HostileDocument, WrongVersionReadsNoSection)
 
 TEST_F(HostileDocument, VersionBeyondAllNumbersIsRefused)
 {
-    EXPECT_NE(loadThenRecover(goodBytes().replace("\"Version\": 29", "\"Version\": 1e400")), Success);
+    const QString error = loadThenRecover(goodBytes().replace("\"Version\": 29", "\"Version\": 1e400"));
+    EXPECT_TRUE(error.startsWith(u"\"FILE\" is not valid JSON: line "_s) && error.endsWith(u": illegal number"_s))
+        << error.toStdString();
 }
 
 TEST_F(HostileDocument, VersionWithAFractionOfZeroIsTheVersion)

@@ -1,4 +1,5 @@
-#include <batterydata/ClConfigDataArray.h>
+#include <batterydata/ClConfigDataArrayManager.h>
+#include <batterydata/RawDataCollection.h>
 #include <config/ConfigRepresentation.h>
 #include <config/Configuration.h>
 #include <config/MSVUnitsCombination.h>
@@ -142,9 +143,12 @@ TEST_F(LifeCycle, DeleteAllTwiceDoesNothingMore)
 TEST_F(LifeCycle, DeleteAllLeavesTheCatalogueAlone)
 {
     EXPECT_EQ(load(configDocument()), Success);
-    auto* column = config.getSummaryTablePerLoopColumns().value(0);
+    const auto* column = config.getSummaryTablePerLoopColumns().value(0);
+    ASSERT_NE(column, nullptr);
     config.deleteAll();
-    EXPECT_EQ(column->getName(), u"Energy"_s);
+    const auto& catalogue = Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
+    EXPECT_EQ(catalogue.getConfigDataArray(u"Energy"_s, u"Loop"_s), column);
+    EXPECT_THAT(catalogue.getAll(), testing::SizeIs(7));
 }
 
 TEST_F(LifeCycle, DestructionDeletesTheRecords)
@@ -194,6 +198,7 @@ TEST_F(LifeCycle, SectionsThatMayBeMissingAreThreeAndEveryOtherIsRefusedWithItsS
 TEST_F(LifeCycle, OtherTopLevelKeysAreIgnored)
 {
     EXPECT_EQ(load(with(configDocument(), u"Comment"_s, u"kept by hand"_s)), Success);
+    EXPECT_EQ(filledSections(config), allSections());
 }
 
 TEST_F(LifeCycle, SectionKeysAreCaseSensitive)

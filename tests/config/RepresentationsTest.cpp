@@ -310,17 +310,22 @@ TEST(ConfigRepresentationManagerTest, AssignmentsDeleteNoRecordOfTheTarget)
     EXPECT_THAT(target.getConfigRepresentationList(), IsEmpty());
 }
 
-TEST(ConfigRepresentationManagerTest, ListIsACopy)
+TEST(ConfigRepresentationManagerTest, EmptyManagerFindsNothing)
 {
-    ConfigRepresentationManager manager;
-    manager.getConfigRepresentationList().append(nullptr);
-    EXPECT_THAT(manager.getConfigRepresentationList(), IsEmpty());
+    const ConfigRepresentationManager manager;
     EXPECT_EQ(manager.getConfigRepresentationFromName(QString()), nullptr);
     EXPECT_EQ(manager.getConfigRepresentationFromAxis({}, {}, {}), nullptr);
+    EXPECT_EQ(manager.getDefaultConfigRepresentation(), nullptr);
+}
+
+TEST(ConfigRepresentationManagerTest, NullIsTakenAndDeletedLikeARecord)
+{
+    ConfigRepresentationManager manager;
     manager.append(nullptr);
     manager.append(nullptr);
     EXPECT_THAT(manager.getConfigRepresentationList(), ElementsAre(nullptr, nullptr));
     manager.deleteAllAndClear();
+    EXPECT_THAT(manager.getConfigRepresentationList(), IsEmpty());
 }
 
 TEST(ConfigRepresentationTest, CopiesAndMovesCarryAllFields)

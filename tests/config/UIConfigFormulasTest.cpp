@@ -97,9 +97,3 @@ TEST_F(Formulas, MissingSectionFails)
             << json;
     }
 }
-
-TEST_F(Formulas, ListIsACopy)
-{
-    config.getAxisFormulaConfigByName(u"X"_s).append({u"a"_s, u"b"_s});
-    EXPECT_THAT(x(), IsEmpty());
-}

@@ -157,13 +157,6 @@ TYPED_TEST(TitledGraphs, FirstOfEqualTitlesIsFound)
     EXPECT_THAT(TypeParam::find(this->config, u"graph"_s).getGraphItemsTitleList(), ElementsAre(u"first"_s));
 }
 
-TYPED_TEST(TitledGraphs, FoundGraphIsACopy)
-{
-    EXPECT_EQ(this->readSection(R"({"graph": []})"), Success);
-    TypeParam::find(this->config, u"graph"_s).setTitle(u"changed"_s);
-    EXPECT_THAT(this->titles(), ElementsAre(u"graph"_s));
-}
-
 TEST_F(UIConfigTest, SameSnippetGivesStatisticsAndRagonePlotTheSameGraphs)
 {
     const QJsonValue snippet =

@@ -2,6 +2,8 @@
 #include <batterydata/ClConfigDataArray.h>
 #include <datastorage/ConfigDataArray.h>
 #include <datastorage/DataArrayIdentifier.h>
+#include <support/Archive.h>
+#include <support/QtPrinters.h>
 
 #include <QJsonObject>
 
@@ -167,17 +169,18 @@ TEST(ClConfigDataArray, WritesItsWholeDescriptionAndReadsItBack)
 TEST(ClConfigDataArray, RefusesEveryMissingOrWrongKeyAndStaysAsItWas)
 {
     ArchiveContext context;
-    QJsonObject complete;
-    makeSpecificCharge().write(complete, 1, context);
+    const QJsonObject complete = written(makeSpecificCharge());
+    EXPECT_EQ(complete.size(), 11);
+    ClConfigDataArray array;
+    const QJsonObject before = written(array);
     for (const QString& key : complete.keys()) {
+        EXPECT_NE(before.value(key), complete.value(key)) << qPrintable(key);
         QJsonObject object = complete;
         object.remove(key);
-        ClConfigDataArray array(makeSpecificCharge());
-        array.setName(u"Kept"_qs);
         EXPECT_FALSE(array.read(object, 1, context)) << qPrintable(key);
         object.insert(key, QJsonObject());
         EXPECT_FALSE(array.read(object, 1, context)) << qPrintable(key);
-        EXPECT_EQ(array.getName(), u"Kept"_qs);
+        EXPECT_EQ(written(array), before) << qPrintable(key);
     }
     const QList<std::pair<QString, QJsonValue>> wrongValues = {
         {u"unit"_qs, u"mAh/x"_qs}, {u"dataType"_qs, 5},         {u"dataType"_qs, -1},          {u"configType"_qs, 2},
