@@ -195,3 +195,12 @@ TEST(RecipeConfigItemTest, OnlyTheDestructorIsVirtual)
     EXPECT_EQ(virtualSlots<RecipeConfigItem>(), 2U);
 }
 #endif
+
+TEST(CommandNames, AreThoseOfTheRecipeSection)
+{
+    EXPECT_EQ(UIConfig::graphCommand(), u"GraphCommand"_s);
+    EXPECT_EQ(UIConfig::toolSummaryCommand(), u"ToolSummaryCommand"_s);
+    EXPECT_EQ(UIConfig::toolStatisticsCommand(), u"ToolStatisticsCommand"_s);
+    EXPECT_EQ(UIConfig::toolRagonePlotCommand(), u"ToolRagonePlotCommand"_s);
+    EXPECT_EQ(UIConfig::toolProcessedDataCommand(), u"ToolProcessedDataCommand"_s);
+}

@@ -1,7 +1,6 @@
-#include <batterydata/ClConfigDataArray.h>
 #include <batterydata/ClConfigDataArrayManager.h>
 #include <batterydata/RawDataCollection.h>
-#include <config/UIConfigTest.h>
+#include <config/ColumnsTest.h>
 
 #include <memory>
 
@@ -12,41 +11,14 @@ using testing::IsEmpty;
 
 namespace {
 
-/// "category/name" of each column, "null" for null.
-QStringList names(const QList<ClConfigDataArray*>& columns)
-{
-    QStringList result;
-    for (const ClConfigDataArray* column : columns) {
-        result.append(column == nullptr ? u"null"_s : column->getCategory() + u'/' + column->getName());
-    }
-    return result;
-}
-
-class Columns : public UIConfigTest
+class SummaryTable : public ColumnsTest
 {
 protected:
     QString readTools(const QByteArray& json) const { return read(&UIConfigReaders::readTools, json); }
-    QString readDQdU(const QByteArray& json) const { return read(&UIConfigReaders::readDQdUColumns, json); }
 
     QStringList perStep() const { return names(config.getSummaryTablePerStepColumns()); }
     QStringList perCycle() const { return names(config.getSummaryTablePerCycleColumns()); }
     QStringList perLoop() const { return names(config.getSummaryTablePerLoopColumns()); }
-    QStringList dQdU() const { return names(config.getDQdUColumns()); }
-
-private:
-    const TestCatalogue m_catalogue{
-        {u"Duration"_s, u"Step"_s},         {u"Capacity"_s, u"Step"_s},   {u"Capacity"_s, u"Cycle"_s},
-        {u"Capacity"_s, u"Loop"_s},         {u"Energy"_s, u"Loop"_s},     {u"Voltage"_s, u"Potentiostat"_s},
-        {u"Capacity"_s, u"Potentiostat"_s}, {QString(), u"Aggregates"_s},
-    };
-};
-
-class SummaryTable : public Columns
-{
-};
-
-class DQdUTable : public Columns
-{
 };
 
 } // namespace
@@ -192,81 +164,4 @@ TEST_F(SummaryTable, ColumnReaderFillsAnyList)
     EXPECT_THAT(names(columns), ElementsAre(u"Loop/Energy"_s));
     EXPECT_FALSE(readColumns(jsonObject(R"({"Step": null})")));
     EXPECT_EQ(error, u"Summary table category is not a Json array"_s);
-}
-
-TEST_F(DQdUTable, ReadsColumnsOfThePotentiostatAndTheGraph)
-{
-    EXPECT_EQ(readDQdU(R"({"dQ_dU": {"Table": ["Voltage", "Capacity", "Duration", "Voltage"],
-        "Graph": {"Title": "dQ/dU", "Category": "Potentiostat", "X": "Voltage", "Y1": "Capacity"}}})"),
-              Success);
-    EXPECT_THAT(
-        dQdU(),
-        ElementsAre(u"Potentiostat/Voltage"_s, u"Potentiostat/Capacity"_s, u"null"_s, u"Potentiostat/Voltage"_s));
-    EXPECT_EQ(config.getDQdUItem().getTitle(), u"dQ/dU"_s);
-    EXPECT_EQ(config.getDQdUItem().getCategory(), u"Potentiostat"_s);
-    EXPECT_EQ(config.getDQdUItem().getStreamX(), u"Voltage"_s);
-    EXPECT_EQ(config.getDQdUItem().getStreamY1(), u"Capacity"_s);
-}
-
-TEST_F(DQdUTable, EntryThatIsANumberGivesANullColumn)
-{
-    EXPECT_EQ(readDQdU(R"({"dQ_dU": {"Table": [5, "Voltage"]}})"), Success);
-    EXPECT_THAT(dQdU(), ElementsAre(u"null"_s, u"Potentiostat/Voltage"_s));
-}
-
-TEST_F(DQdUTable, EntryThatIsNoTextIsLookedUpAsTheEmptyName)
-{
-    auto* nameless = TestCatalogue::add({QString(), u"Potentiostat"_s});
-    EXPECT_EQ(readDQdU(R"({"dQ_dU": {"Table": [5]}})"), Success);
-    EXPECT_THAT(config.getDQdUColumns(), ElementsAre(nameless));
-}
-
-TEST_F(DQdUTable, MissingSectionFails)
-{
-    for (const char* json : {R"({})", R"({"dQ_dU": []})", R"({"dQ_dU": null})", R"({"dq_du": {"Table": []}})"}) {
-        EXPECT_EQ(readDQdU(json), u"Missing dQ/dU node"_s) << json;
-    }
-}
-
-TEST_F(DQdUTable, MissingTableFailsAndLeavesTheGraphAlone)
-{
-    for (const char* table : {"", R"("Table": "Voltage",)", R"("Table": {"Voltage": []},)"}) {
-        EXPECT_EQ(readDQdU(QByteArray("{\"dQ_dU\": {") + table + R"("Graph": {"Title": "new"}}})"),
-                  u"Missing dQ/dU table configuration node"_s);
-    }
-    EXPECT_EQ(filledSections(config), QStringList());
-}
-
-TEST_F(DQdUTable, MissingGraphEmptiesTheItem)
-{
-    EXPECT_EQ(readDQdU(R"({"dQ_dU": {"Table": [], "Graph": {"Title": "a", "X": "b", "Y1": "c"}}})"), Success);
-    EXPECT_EQ(readDQdU(R"({"dQ_dU": {"Table": [], "Graph": ["Title"]}})"), Success);
-    EXPECT_EQ(config.getDQdUItem().getTitle(), QString());
-    EXPECT_EQ(config.getDQdUItem().getStreamX(), QString());
-    EXPECT_EQ(config.getDQdUItem().getStreamY1(), QString());
-}
-
-TEST_F(DQdUTable, SecondReadingAppendsAlsoAfterDeleteAll)
-{
-    const char* const json = R"({"dQ_dU": {"Table": ["Voltage"]}})";
-    EXPECT_EQ(readDQdU(json), Success);
-    config.deleteAll();
-    EXPECT_EQ(readDQdU(json), Success);
-    EXPECT_THAT(dQdU(), ElementsAre(u"Potentiostat/Voltage"_s, u"Potentiostat/Voltage"_s));
-}
-
-TEST_F(DQdUTable, DocumentWithoutTheSectionFailsTheLoadAfterElevenSections)
-{
-    const ConfigDocumentCatalogue catalogue;
-    EXPECT_EQ(load(without(configDocument(), u"dQ_dU"_s)), u"Missing dQ/dU node"_s);
-    EXPECT_EQ(filledSections(config), allSections().first(11));
-}
-
-TEST(CommandNames, AreThoseOfTheRecipeSection)
-{
-    EXPECT_EQ(UIConfig::graphCommand(), u"GraphCommand"_s);
-    EXPECT_EQ(UIConfig::toolSummaryCommand(), u"ToolSummaryCommand"_s);
-    EXPECT_EQ(UIConfig::toolStatisticsCommand(), u"ToolStatisticsCommand"_s);
-    EXPECT_EQ(UIConfig::toolRagonePlotCommand(), u"ToolRagonePlotCommand"_s);
-    EXPECT_EQ(UIConfig::toolProcessedDataCommand(), u"ToolProcessedDataCommand"_s);
 }
