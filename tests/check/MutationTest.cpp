@@ -40,7 +40,9 @@ QJsonValue valueAt(const QJsonObject& root, const QString& pointer)
     const QStringList steps = pointer.split(u'/').mid(1);
     for (QString step : steps) {
         step = step.replace(u"~1"_s, u"/"_s).replace(u"~0"_s, u"~"_s);
-        value = value.isArray() ? value.toArray().at(step.toLongLong()) : value.toObject().value(step);
+        bool isIndex = false;
+        const qlonglong index = step.toLongLong(&isIndex);
+        value = value.isArray() && isIndex ? value.toArray().at(index) : value.toObject().value(step);
     }
     return value;
 }
