@@ -49,26 +49,15 @@ QCPAxis::ScaleType scaleFromWord(const QString& word)
 }
 
 /// Reads one entry. What it does returns false when the reading is to stop.
-class EntryReader
+struct EntryReader
 {
-public:
-    EntryReader(const QJsonObject& entry, qsizetype index, const ClConfigDataArrayManager& catalogue,
-                QList<AxesCombination>& combinations, Refusals& refusals)
-        : m_entry(entry)
-        , m_index(index)
-        , m_catalogue(catalogue)
-        , m_combinations(combinations)
-        , m_refusals(refusals)
-    {
-    }
-
     bool read()
     {
-        const QCborValue x = m_entry.value(keys::X);
+        const QCborValue x = entry.value(keys::X);
         if (!x.isArray() && !refuse(UnexpectedX, keys::X)) {
             return false;
         }
-        m_yReferences = m_entry.array(keys::Y1Y2);
+        yReferences = entry.array(keys::Y1Y2);
         const QCborArray xReferences = x.toArray();
         qsizetype index = 0;
         for (const auto& reference : xReferences) {
@@ -80,11 +69,10 @@ public:
         return true;
     }
 
-private:
     template <typename... Steps>
     bool refuse(const QString& sentence, const Steps&... steps)
     {
-        return m_refusals.goOnAfter(sentence, jsonPointer(keys::AxesCombinations, m_index, steps...));
+        return refusals.goOnAfter(sentence, jsonPointer(keys::AxesCombinations, number, steps...));
     }
 
     /// Appends the arrays that a reference names: one when it gives a category, all of that name when it does not.
@@ -94,14 +82,14 @@ private:
         const QString name = reference.text(keys::Name);
         const QString category = reference.text(keys::Category);
         if (category.isEmpty()) {
-            const auto named = m_catalogue.getConfigDataArrays(name);
+            const auto named = catalogue.getConfigDataArrays(name);
             for (const auto* array : named) {
                 arrays.append({array});
             }
-        } else if (const auto* array = m_catalogue.getConfigDataArray(name, category)) {
+        } else if (const auto* array = catalogue.getConfigDataArray(name, category)) {
             arrays.append({array});
         } else if (refuse(QString(unknown).arg(name, 0, u' ').arg(category, 0, u' '), key, index)) {
-            arrays.append({&m_standIns.emplace_front(name, category), true});
+            arrays.append({&standIns.emplace_front(name, category), true});
         } else {
             return false;
         }
@@ -111,14 +99,14 @@ private:
     bool pairWithYs(const NamedArrays& xs)
     {
         qsizetype index = 0;
-        for (const auto& reference : std::as_const(m_yReferences)) {
+        for (const auto& reference : std::as_const(yReferences)) {
             // Resolved when it is first needed, which decides what is appended before a refusal and which refusal
             // comes first; kept from then on, since it is the same for every X.
-            if (index == m_ys.size()
-                && !resolve(JsonFields(reference), UnknownY, keys::Y1Y2, index, m_ys.emplace_back())) {
+            if (index == resolvedYs.size()
+                && !resolve(JsonFields(reference), UnknownY, keys::Y1Y2, index, resolvedYs.emplace_back())) {
                 return false;
             }
-            if (!pair(xs, m_ys[index++])) {
+            if (!pair(xs, resolvedYs[index++])) {
                 return false;
             }
         }
@@ -139,39 +127,39 @@ private:
 
     bool append(const NamedArray& x, const NamedArray& y)
     {
-        if (!m_defaults && !readDefaults()) {
+        if (!defaults && !readDefaults()) {
             return false;
         }
         if (!x.isStandIn && !y.isStandIn) {
-            m_combinations.emplaceBack(*x.identifier, *y.identifier, m_defaults->scaleX, m_defaults->scaleY,
-                                       m_defaults->orthonormal);
+            combinations.emplaceBack(*x.identifier, *y.identifier, defaults->scaleX, defaults->scaleY,
+                                     defaults->orthonormal);
         }
         return true;
     }
 
     bool readDefaults()
     {
-        const QString scaleX = m_entry.text(keys::ScaleX);
-        const QString scaleY = m_entry.text(keys::ScaleY);
-        const QString orthonormal = m_entry.text(keys::Orthonormal);
+        const QString scaleX = entry.text(keys::ScaleX);
+        const QString scaleY = entry.text(keys::ScaleY);
+        const QString orthonormal = entry.text(keys::Orthonormal);
         if ((scaleX.isEmpty() && !refuse(UnexpectedScale, keys::ScaleX))
             || (scaleY.isEmpty() && !refuse(UnexpectedScale, keys::ScaleY))
             || (orthonormal.isEmpty() && !refuse(UnexpectedOrthonormal, keys::Orthonormal))) {
             return false;
         }
-        m_defaults = {scaleFromWord(scaleX), scaleFromWord(scaleY), orthonormal == keys::TrueWord};
+        defaults = {scaleFromWord(scaleX), scaleFromWord(scaleY), orthonormal == keys::TrueWord};
         return true;
     }
 
-    const JsonFields m_entry;
-    const qsizetype m_index;
-    const ClConfigDataArrayManager& m_catalogue;
-    QList<AxesCombination>& m_combinations;
-    Refusals& m_refusals;
-    QCborArray m_yReferences;
-    QVarLengthArray<NamedArrays, 16> m_ys; // of the Y references that were resolved
-    std::forward_list<DataArrayIdentifier> m_standIns;
-    std::optional<PlotDefaults> m_defaults; // read when the first pair needs them
+    const JsonFields entry;
+    const qsizetype number; // of the entry
+    const ClConfigDataArrayManager& catalogue;
+    QList<AxesCombination>& combinations;
+    Refusals& refusals;
+    QCborArray yReferences{};
+    QVarLengthArray<NamedArrays, 16> resolvedYs{}; // of the Y references so far
+    std::forward_list<DataArrayIdentifier> standIns{};
+    std::optional<PlotDefaults> defaults{}; // read when the first pair needs them
 };
 
 } // namespace
@@ -195,7 +183,7 @@ bool readAxesCombinations(const QJsonArray& entries, const ClConfigDataArrayMana
 bool readAxesCombination(const QJsonObject& entry, qsizetype index, const ClConfigDataArrayManager& catalogue,
                          QList<AxesCombination>& combinations, Refusals& refusals)
 {
-    return EntryReader(entry, index, catalogue, combinations, refusals).read();
+    return EntryReader{JsonFields(entry), index, catalogue, combinations, refusals}.read();
 }
 
 } // namespace uiconfig

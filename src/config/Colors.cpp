@@ -61,19 +61,20 @@ void readDefaultColors(const QJsonObject& defaults, Colors& colors)
 
 } // namespace
 
-bool readColors(const QJsonObject& section, Colors& colors, Refusals& refusals)
+bool readColors(const QJsonValue& section, const Reading& with)
 {
-    const QJsonValue palette = section.value(keys::CustomColors);
-    if (palette.isArray()
-            ? !readCustomColors(palette.toArray(), colors, refusals)
-            : !refusals.goOnAfter(CustomColorsNotAnArray, jsonPointer(keys::Colors, keys::CustomColors))) {
+    const QJsonObject members = section.toObject();
+    const QJsonValue palette = members.value(keys::CustomColors);
+    const QString place = jsonPointer(keys::Colors, keys::CustomColors);
+    if (palette.isArray() ? !readCustomColors(palette.toArray(), with.to.colors, with.refusals)
+                          : !with.refusals.goOnAfter(CustomColorsNotAnArray, place)) {
         return false;
     }
-    const QJsonValue defaults = section.value(keys::DefaultColors);
+    const QJsonValue defaults = members.value(keys::DefaultColors);
     if (!defaults.isObject()) {
-        return refusals.goOnAfter(DefaultColorsNotAnObject, jsonPointer(keys::Colors, keys::DefaultColors));
+        return with.refusals.goOnAfter(DefaultColorsNotAnObject, jsonPointer(keys::Colors, keys::DefaultColors));
     }
-    readDefaultColors(defaults.toObject(), colors);
+    readDefaultColors(defaults.toObject(), with.to.colors);
     return true;
 }
 
@@ -86,19 +87,16 @@ bool UIConfig::readColors(const QJsonObject& root, QString& error)
 
 bool UIConfig::readCustomColors(const QJsonValue& customColors, QString& error)
 {
-    uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
-    uiconfig::Configuration configuration;
-    uiconfig::readCustomColors(customColors.toArray(), configuration.colors, refusals);
-    take(std::move(configuration));
-    return refusals.isEmpty(error);
+    return takeRead(error, [&](const uiconfig::Reading& with) {
+        uiconfig::readCustomColors(customColors.toArray(), with.to.colors, with.refusals);
+    });
 }
 
-bool UIConfig::readDefaultColors(const QJsonValue& defaultColors, QString& /*error*/)
+bool UIConfig::readDefaultColors(const QJsonValue& defaultColors, QString& error)
 {
-    uiconfig::Configuration configuration;
-    uiconfig::readDefaultColors(defaultColors.toObject(), configuration.colors);
-    take(std::move(configuration));
-    return true;
+    return takeRead(error, [&](const uiconfig::Reading& with) {
+        uiconfig::readDefaultColors(defaultColors.toObject(), with.to.colors);
+    });
 }
 
 bool UIConfig::getDefaultColor(const QString& key, QColor& color) const

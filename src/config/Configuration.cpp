@@ -20,73 +20,32 @@ constexpr auto Object = Section::Type::Object;
 constexpr auto Array = Section::Type::Array;
 constexpr QLatin1StringView MayBeMissing;
 
-/// What is read with, and where to.
-struct Reading
-{
-    const Catalogue& catalogue;
-    Configuration& to;
-    Refusals& refusals;
-};
-
 struct SectionReader
 {
     Section section;
-    bool (*read)(const QJsonValue& value, const Reading& reading);
+    bool (*read)(const QJsonValue& section, const Reading& with);
 };
 
-const std::array SectionReaders{
-    SectionReader{AxesCombinationsSection,
-                  [](const QJsonValue& value, const Reading& with) {
-                      return readAxesCombinations(value.toArray(), with.catalogue, with.to.axesCombinations,
-                                                  with.refusals);
-                  }},
-    SectionReader{{keys::Representations, Array, "Representations array missing"_L1},
-                  [](const QJsonValue& value, const Reading& with) {
-                      return readRepresentations(value.toArray(), with.catalogue, with.to.representations,
-                                                 with.refusals);
-                  }},
-    SectionReader{
-        {keys::MSVUnits, Array, "Multi units combinations array missing"_L1},
-        [](const QJsonValue& value, const Reading& with) { return readMSVUnits(value.toArray(), with.to.msvUnits); }},
-    SectionReader{{keys::Filters, Object, MayBeMissing},
-                  [](const QJsonValue& value, const Reading& with) {
-                      return readFilters(value.toObject(), with.to.skippedTasks);
-                  }},
-    SectionReader{{keys::Tools, Object, MayBeMissing},
-                  [](const QJsonValue& value, const Reading& with) {
-                      return readTools(value.toObject(), with.catalogue, with.to.summaryTables, with.refusals);
-                  }},
-    SectionReader{{keys::Colors, Object, "Missing colors configuration node"_L1},
-                  [](const QJsonValue& value, const Reading& with) {
-                      return readColors(value.toObject(), with.to.colors, with.refusals);
-                  }},
-    SectionReader{{keys::Statistics, Object, "Missing statistics graphs configuration node"_L1},
-                  [](const QJsonValue& value, const Reading& with) {
-                      return readStatistics(value.toObject(), with.to.statistics);
-                  }},
-    SectionReader{{keys::RagonePlot, Object, "Missing Ragone Plot graphs configuration node"_L1},
-                  [](const QJsonValue& value, const Reading& with) {
-                      return readRagonePlot(value.toObject(), with.to.ragonePlots);
-                  }},
+bool readAxes(const QJsonValue& section, const Reading& with)
+{
+    return readAxesCombinations(section.toArray(), with.catalogue, with.to.axesCombinations, with.refusals);
+}
+
+constexpr std::array SectionReaders{
+    SectionReader{AxesCombinationsSection, readAxes},
+    SectionReader{{keys::Representations, Array, "Representations array missing"_L1}, readRepresentations},
+    SectionReader{{keys::MSVUnits, Array, "Multi units combinations array missing"_L1}, readMSVUnits},
+    SectionReader{{keys::Filters, Object, MayBeMissing}, readFilters},
+    SectionReader{{keys::Tools, Object, MayBeMissing}, readTools},
+    SectionReader{{keys::Colors, Object, "Missing colors configuration node"_L1}, readColors},
+    SectionReader{{keys::Statistics, Object, "Missing statistics graphs configuration node"_L1}, readStatistics},
+    SectionReader{{keys::RagonePlot, Object, "Missing Ragone Plot graphs configuration node"_L1}, readRagonePlot},
     SectionReader{{keys::ProcessedData, Array, "Missing processed data graphs configuration node"_L1},
-                  [](const QJsonValue& value, const Reading& with) {
-                      return readProcessedData(value.toArray(), with.to.processedData, with.refusals);
-                  }},
-    SectionReader{{keys::Recipe, Object, "Missing recipe node"_L1},
-                  [](const QJsonValue& value, const Reading& with) {
-                      return readRecipe(value.toObject(), with.to.recipe, with.refusals);
-                  }},
-    SectionReader{{keys::ProcessFormula, Object, "Missing Process Formula configuration node"_L1},
-                  [](const QJsonValue& value, const Reading& with) {
-                      return readProcessFormula(value.toObject(), with.to.processFormulas);
-                  }},
-    SectionReader{{keys::DQdU, Object, "Missing dQ/dU node"_L1},
-                  [](const QJsonValue& value, const Reading& with) {
-                      return readDQdU(value.toObject(), with.catalogue, with.to.dQdU, with.refusals);
-                  }},
-    SectionReader{
-        {keys::Debug, Object, MayBeMissing},
-        [](const QJsonValue& value, const Reading& with) { return readDebug(value.toObject(), with.to.debugFlags); }},
+                  readProcessedData},
+    SectionReader{{keys::Recipe, Object, "Missing recipe node"_L1}, readRecipe},
+    SectionReader{{keys::ProcessFormula, Object, "Missing Process Formula configuration node"_L1}, readProcessFormula},
+    SectionReader{{keys::DQdU, Object, "Missing dQ/dU node"_L1}, readDQdU},
+    SectionReader{{keys::Debug, Object, MayBeMissing}, readDebug},
 };
 
 bool read(const SectionReader& reader, const QJsonObject& root, const Reading& with)
@@ -106,15 +65,13 @@ QList<Section> sections()
     return sections;
 }
 
-void readConfiguration(const QJsonObject& root, const Catalogue& catalogue, Configuration& configuration,
-                       Refusals& refusals)
+void readConfiguration(const QJsonObject& root, const Reading& with)
 {
     QString error;
     if (!JsonUtils::checkVersionNumber(root, FormatVersion, error)
-        && !refusals.goOnAfter(error, jsonPointer(keys::Version))) {
+        && !with.refusals.goOnAfter(error, jsonPointer(keys::Version))) {
         return;
     }
-    const Reading with{catalogue, configuration, refusals};
     for (const SectionReader& reader : SectionReaders) {
         if (!read(reader, root, with)) {
             return;
@@ -122,13 +79,12 @@ void readConfiguration(const QJsonObject& root, const Catalogue& catalogue, Conf
     }
 }
 
-void readSection(QLatin1StringView key, const QJsonObject& root, const Catalogue& catalogue,
-                 Configuration& configuration, Refusals& refusals)
+void readSection(QLatin1StringView key, const QJsonObject& root, const Reading& with)
 {
-    const auto reader =
+    const auto* reader =
         std::ranges::find(SectionReaders, key, [](const SectionReader& each) { return each.section.key; });
     Q_ASSERT(reader != SectionReaders.end());
-    read(*reader, root, {catalogue, configuration, refusals});
+    read(*reader, root, with);
 }
 
 } // namespace uiconfig

@@ -11,8 +11,8 @@
 #include <items/StatisticsItem.h>
 
 #include <QColor>
-#include <QJsonArray>
 #include <QJsonObject>
+#include <QJsonValue>
 #include <QLatin1StringView>
 #include <QList>
 #include <QMap>
@@ -109,33 +109,36 @@ CLCONFIGUI_EXPORT QList<Section> sections();
 
 using Catalogue = cl::batterydata::ClConfigDataArrayManager;
 
-/// Reads the version of the document \p root and then its sections, and appends what they say to \p configuration. The
-/// names of data arrays are those of \p catalogue, which must outlive the columns. A reading that was stopped by a
-/// refusal leaves what was read before.
-CLCONFIGUI_EXPORT void readConfiguration(const QJsonObject& root, const Catalogue& catalogue,
-                                         Configuration& configuration, Refusals& refusals);
+/// What the readers read with: the names of data arrays, where what is read goes, and who is told of refusals.
+struct Reading
+{
+    const Catalogue& catalogue; ///< Must outlive the columns that are read.
+    Configuration& to;
+    Refusals& refusals;
+};
+
+/// Reads the version of the document \p root and then its sections, and appends what they say. A reading that was
+/// stopped by a refusal leaves what was read before.
+CLCONFIGUI_EXPORT void readConfiguration(const QJsonObject& root, const Reading& with);
 
 /// Reads the section \p key alone. REQUIRES: sections() has it.
-CLCONFIGUI_EXPORT void readSection(QLatin1StringView key, const QJsonObject& root, const Catalogue& catalogue,
-                                   Configuration& configuration, Refusals& refusals);
+CLCONFIGUI_EXPORT void readSection(QLatin1StringView key, const QJsonObject& root, const Reading& with);
 
 // The readers of the sections, each in a source file of its name; that of the axes combinations stands in axes/. Each
-// appends what the value of its section says to a value of its own, and returns false when a refusal stops the reading.
+// takes the value of its section, which has the section's type, appends what it says to the section's own records, and
+// returns false when a refusal stops the reading.
 
-CLCONFIGUI_EXPORT bool readRepresentations(const QJsonArray& entries, const Catalogue& catalogue,
-                                           QList<ConfigRepresentation>& representations, Refusals& refusals);
-CLCONFIGUI_EXPORT bool readMSVUnits(const QJsonArray& entries, QList<MSVUnitsCombination>& combinations);
-CLCONFIGUI_EXPORT bool readFilters(const QJsonObject& section, QList<QString>& skippedTasks);
-CLCONFIGUI_EXPORT bool readTools(const QJsonObject& section, const Catalogue& catalogue, SummaryTables& tables,
-                                 Refusals& refusals);
-CLCONFIGUI_EXPORT bool readColors(const QJsonObject& section, Colors& colors, Refusals& refusals);
-CLCONFIGUI_EXPORT bool readStatistics(const QJsonObject& section, QList<StatisticsItem>& graphs);
-CLCONFIGUI_EXPORT bool readRagonePlot(const QJsonObject& section, QList<RagonePlotItem>& graphs);
-CLCONFIGUI_EXPORT bool readProcessedData(const QJsonArray& entries, QList<ProcessedDataItem>& graphs,
-                                         Refusals& refusals);
-CLCONFIGUI_EXPORT bool readRecipe(const QJsonObject& section, Recipe& recipe, Refusals& refusals);
-CLCONFIGUI_EXPORT bool readProcessFormula(const QJsonObject& section, ProcessFormulas& formulas);
-CLCONFIGUI_EXPORT bool readDQdU(const QJsonObject& section, const Catalogue& catalogue, DQdU& dQdU, Refusals& refusals);
-CLCONFIGUI_EXPORT bool readDebug(const QJsonObject& section, std::optional<DebugFlags>& flags);
+CLCONFIGUI_EXPORT bool readRepresentations(const QJsonValue& section, const Reading& with);
+CLCONFIGUI_EXPORT bool readMSVUnits(const QJsonValue& section, const Reading& with);
+CLCONFIGUI_EXPORT bool readFilters(const QJsonValue& section, const Reading& with);
+CLCONFIGUI_EXPORT bool readTools(const QJsonValue& section, const Reading& with);
+CLCONFIGUI_EXPORT bool readColors(const QJsonValue& section, const Reading& with);
+CLCONFIGUI_EXPORT bool readStatistics(const QJsonValue& section, const Reading& with);
+CLCONFIGUI_EXPORT bool readRagonePlot(const QJsonValue& section, const Reading& with);
+CLCONFIGUI_EXPORT bool readProcessedData(const QJsonValue& section, const Reading& with);
+CLCONFIGUI_EXPORT bool readRecipe(const QJsonValue& section, const Reading& with);
+CLCONFIGUI_EXPORT bool readProcessFormula(const QJsonValue& section, const Reading& with);
+CLCONFIGUI_EXPORT bool readDQdU(const QJsonValue& section, const Reading& with);
+CLCONFIGUI_EXPORT bool readDebug(const QJsonValue& section, const Reading& with);
 
 } // namespace uiconfig

@@ -14,14 +14,15 @@ constexpr auto TableMissing = "Missing dQ/dU table configuration node"_L1;
 
 } // namespace
 
-bool readDQdU(const QJsonObject& section, const Catalogue& catalogue, DQdU& dQdU, Refusals& refusals)
+bool readDQdU(const QJsonValue& section, const Reading& with)
 {
-    const QJsonValue table = section.value(keys::Table);
-    if (!table.isArray() && !refusals.goOnAfter(TableMissing, jsonPointer(keys::DQdU, keys::Table))) {
+    const QJsonObject members = section.toObject();
+    const QJsonValue table = members.value(keys::Table);
+    if (!table.isArray() && !with.refusals.goOnAfter(TableMissing, jsonPointer(keys::DQdU, keys::Table))) {
         return false;
     }
-    appendColumns(table.toArray(), ClConfigDataArray::PotentiostatMeasure(), catalogue, dQdU.columns);
-    dQdU.graph.emplace().readGraphItem(section.value(keys::Graph).toObject());
+    appendColumns(table.toArray(), ClConfigDataArray::PotentiostatMeasure(), with.catalogue, with.to.dQdU.columns);
+    with.to.dQdU.graph.emplace().readGraphItem(members.value(keys::Graph).toObject());
     return true;
 }
 

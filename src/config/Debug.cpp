@@ -6,11 +6,11 @@
 
 namespace uiconfig {
 
-bool readDebug(const QJsonObject& section, std::optional<DebugFlags>& flags)
+bool readDebug(const QJsonValue& section, const Reading& with)
 {
-    const JsonFields fields(section);
-    flags = {fields.flag(keys::ImportDialogClIds), fields.flag(keys::ImportedParquetFiles),
-             fields.flag(keys::ZFitInputData)};
+    const JsonFields fields(section.toObject());
+    with.to.debugFlags = {fields.flag(keys::ImportDialogClIds), fields.flag(keys::ImportedParquetFiles),
+                          fields.flag(keys::ZFitInputData)};
     return true;
 }
 

@@ -6,10 +6,11 @@
 
 namespace uiconfig {
 
-bool readFilters(const QJsonObject& section, QList<QString>& skippedTasks)
+bool readFilters(const QJsonValue& section, const Reading& with)
 {
     // What is missing or has another type reads as empty on the way down and adds nothing.
-    skippedTasks.append(JsonFields(section.value(keys::Tasks).toObject()).texts(keys::Skipped));
+    const QJsonValue tasks = section.toObject().value(keys::Tasks);
+    with.to.skippedTasks.append(JsonFields(tasks.toObject()).texts(keys::Skipped));
     return true;
 }
 

@@ -9,12 +9,12 @@ using cl::datastorage::Converter;
 
 namespace uiconfig {
 
-bool readMSVUnits(const QJsonArray& entries, QList<MSVUnitsCombination>& combinations)
+bool readMSVUnits(const QJsonValue& section, const Reading& with)
 {
-    const auto elements = QCborArray::fromJsonArray(entries);
+    const auto elements = QCborArray::fromJsonArray(section.toArray());
     for (const auto& element : elements) {
         const JsonFields entry(element);
-        MSVUnitsCombination& combination = combinations.emplaceBack();
+        MSVUnitsCombination& combination = with.to.msvUnits.emplaceBack();
         combination.setPhysicalParameter(
             Converter::getPhysicalParameterFromString(entry.text(keys::PhysicalParameter)));
         combination.setOperator(Converter::getOperatorFromString(entry.text(keys::Operator)));

@@ -6,9 +6,11 @@
 
 namespace uiconfig {
 
-bool readProcessFormula(const QJsonObject& section, ProcessFormulas& formulas)
+bool readProcessFormula(const QJsonValue& section, const Reading& with)
 {
-    for (auto it = section.begin(); it != section.end(); ++it) {
+    const QJsonObject groups = section.toObject();
+    ProcessFormulas& formulas = with.to.processFormulas;
+    for (auto it = groups.begin(); it != groups.end(); ++it) {
         // Every group that is not one of the two others is taken for the second Y axis.
         Formulas& list = it.key() == keys::XFormulas ? formulas.x
             : it.key() == keys::Y1Formulas           ? formulas.y1

@@ -14,13 +14,14 @@ constexpr auto GraphNotAnObject = "Missing processed data graphs configuration n
 
 } // namespace
 
-bool readProcessedData(const QJsonArray& entries, QList<ProcessedDataItem>& graphs, Refusals& refusals)
+bool readProcessedData(const QJsonValue& section, const Reading& with)
 {
+    const QJsonArray entries = section.toArray();
     qsizetype index = 0;
     for (const auto& entry : entries) {
         if (entry.isObject()) {
-            graphs.emplaceBack().readGraphItem(entry.toObject());
-        } else if (!refusals.goOnAfter(GraphNotAnObject, jsonPointer(keys::ProcessedData, index))) {
+            with.to.processedData.emplaceBack().readGraphItem(entry.toObject());
+        } else if (!with.refusals.goOnAfter(GraphNotAnObject, jsonPointer(keys::ProcessedData, index))) {
             return false;
         }
         ++index;

@@ -5,9 +5,9 @@
 
 namespace uiconfig {
 
-bool readRagonePlot(const QJsonObject& section, QList<RagonePlotItem>& graphs)
+bool readRagonePlot(const QJsonValue& section, const Reading& with)
 {
-    appendTitledGraphs(section, graphs);
+    appendTitledGraphs(section.toObject(), with.to.ragonePlots);
     return true;
 }
 

@@ -36,12 +36,14 @@ bool readCommand(const QJsonObject& section, const QString& command, QList<Recip
 
 } // namespace
 
-bool readRecipe(const QJsonObject& section, Recipe& recipe, Refusals& refusals)
+bool readRecipe(const QJsonValue& section, const Reading& with)
 {
-    return readCommand(section, UIConfig::graphCommand(), recipe.graphCombinations, refusals)
-        && readCommand(section, UIConfig::toolSummaryCommand(), recipe.toolsTables, refusals)
-        && readCommand(section, UIConfig::toolStatisticsCommand(), recipe.toolsGraphs, refusals)
-        && readCommand(section, UIConfig::toolProcessedDataCommand(), recipe.toolsGraphs, refusals);
+    const QJsonObject commands = section.toObject();
+    Recipe& recipe = with.to.recipe;
+    return readCommand(commands, keys::GraphCommand, recipe.graphCombinations, with.refusals)
+        && readCommand(commands, keys::ToolSummaryCommand, recipe.toolsTables, with.refusals)
+        && readCommand(commands, keys::ToolStatisticsCommand, recipe.toolsGraphs, with.refusals)
+        && readCommand(commands, keys::ToolProcessedDataCommand, recipe.toolsGraphs, with.refusals);
 }
 
 } // namespace uiconfig

@@ -17,13 +17,12 @@ constexpr auto UnexpectedY1 = "Unexpected Y1 "_L1;
 constexpr auto UnexpectedY2 = "Unexpected Y2 "_L1;
 constexpr auto NoY = "Neither Y1 nor Y2 set for representation "_L1;
 
-bool readRepresentation(const JsonFields& entry, qsizetype index, const Catalogue& catalogue,
-                        QList<ConfigRepresentation>& representations, Refusals& refusals)
+bool readRepresentation(const JsonFields& entry, qsizetype index, const Reading& with)
 {
-    const qsizetype refusedBefore = refusals.all().size();
-    const auto isKnown = [&](const QString& name) { return !catalogue.getConfigDataArrays(name).isEmpty(); };
+    const qsizetype refusedBefore = with.refusals.all().size();
+    const auto isKnown = [&](const QString& name) { return !with.catalogue.getConfigDataArrays(name).isEmpty(); };
     const auto refuse = [&](const QString& sentence, const auto&... steps) {
-        return refusals.goOnAfter(sentence, jsonPointer(keys::Representations, index, steps...));
+        return with.refusals.goOnAfter(sentence, jsonPointer(keys::Representations, index, steps...));
     };
     const QString name = entry.text(keys::Name);
     const QString x = entry.text(keys::X);
@@ -44,21 +43,20 @@ bool readRepresentation(const JsonFields& entry, qsizetype index, const Catalogu
     if (!y2.isEmpty() && !isKnown(y2) && !refuse(UnexpectedY2 + y2, keys::Y2)) {
         return false;
     }
-    if (refusals.all().size() == refusedBefore) {
-        representations.emplaceBack(name, x, y1, y2, entry.text(keys::Category), entry.flag(keys::Default));
+    if (with.refusals.all().size() == refusedBefore) {
+        with.to.representations.emplaceBack(name, x, y1, y2, entry.text(keys::Category), entry.flag(keys::Default));
     }
     return true;
 }
 
 } // namespace
 
-bool readRepresentations(const QJsonArray& entries, const Catalogue& catalogue,
-                         QList<ConfigRepresentation>& representations, Refusals& refusals)
+bool readRepresentations(const QJsonValue& section, const Reading& with)
 {
-    const auto elements = QCborArray::fromJsonArray(entries);
+    const auto elements = QCborArray::fromJsonArray(section.toArray());
     qsizetype index = 0;
     for (const auto& element : elements) {
-        if (!readRepresentation(JsonFields(element), index++, catalogue, representations, refusals)) {
+        if (!readRepresentation(JsonFields(element), index++, with)) {
             return false;
         }
     }

@@ -5,9 +5,9 @@
 
 namespace uiconfig {
 
-bool readStatistics(const QJsonObject& section, QList<StatisticsItem>& graphs)
+bool readStatistics(const QJsonValue& section, const Reading& with)
 {
-    appendTitledGraphs(section, graphs);
+    appendTitledGraphs(section.toObject(), with.to.statistics);
     return true;
 }
 

@@ -40,9 +40,10 @@ void appendColumns(const QJsonArray& names, const QString& category, const Catal
     }
 }
 
-bool readTools(const QJsonObject& section, const Catalogue& catalogue, SummaryTables& tables, Refusals& refusals)
+bool readTools(const QJsonValue& section, const Reading& with)
 {
-    const QJsonObject table = section.value(keys::SummaryTable).toObject();
+    const QJsonObject table = section.toObject().value(keys::SummaryTable).toObject();
+    SummaryTables& tables = with.to.summaryTables;
     using Kind = std::pair<QLatin1StringView, Columns&>;
     const std::array kinds{Kind{keys::PerStep, tables.perStep}, Kind{keys::PerCycle, tables.perCycle},
                            Kind{keys::PerLoop, tables.perLoop}};
@@ -51,7 +52,7 @@ bool readTools(const QJsonObject& section, const Catalogue& catalogue, SummaryTa
         if (!kind.isObject()) {
             return true; // a missing kind hides the later ones
         }
-        if (!readSummaryTable(kind.toObject(), key, catalogue, columns, refusals)) {
+        if (!readSummaryTable(kind.toObject(), key, with.catalogue, columns, with.refusals)) {
             return false;
         }
     }

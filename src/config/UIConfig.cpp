@@ -72,18 +72,19 @@ bool UIConfig::readUIConfiguration(const QString& path, QString& error)
     if (!JsonUtils::openJsonDocument(path, error, root)) {
         return false;
     }
-    uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
-    uiconfig::Configuration configuration;
-    uiconfig::readConfiguration(root, catalogue(), configuration, refusals);
-    take(std::move(configuration));
-    return refusals.isEmpty(error);
+    return takeRead(error, [&](const uiconfig::Reading& with) { uiconfig::readConfiguration(root, with); });
 }
 
 bool UIConfig::readSection(QLatin1StringView key, const QJsonObject& root, QString& error)
 {
+    return takeRead(error, [&](const uiconfig::Reading& with) { uiconfig::readSection(key, root, with); });
+}
+
+bool UIConfig::takeRead(QString& error, const std::function<void(const uiconfig::Reading&)>& read)
+{
     uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
     uiconfig::Configuration configuration;
-    uiconfig::readSection(key, root, catalogue(), configuration, refusals);
+    read({catalogue(), configuration, refusals});
     take(std::move(configuration));
     return refusals.isEmpty(error);
 }

@@ -19,6 +19,7 @@
 #include <QMap>
 #include <QString>
 
+#include <functional>
 #include <utility>
 
 class AAnalysisItem;
@@ -32,8 +33,8 @@ class ClConfigDataArrayManager;
 
 namespace uiconfig {
 struct Configuration;
+struct Reading;
 struct RecipeEntry;
-class Refusals;
 } // namespace uiconfig
 
 extern template CLCONFIGUI_EXPORT UIConfig& lumo::tools::Singleton<UIConfig>::instance();
@@ -230,7 +231,8 @@ private:
 
     /// Appends what was read to what is there.
     void take(uiconfig::Configuration&& read);
-    /// Reads the section \p key and takes it over, up to the first refusal.
+    /// Takes what \p read reads, up to the first refusal, which goes to \p error: then false.
+    bool takeRead(QString& error, const std::function<void(const uiconfig::Reading&)>& read);
     bool readSection(QLatin1StringView key, const QJsonObject& root, QString& error);
 
     // The order is part of the class's contract: construction and destruction follow it.

@@ -108,7 +108,7 @@ TEST(CheckedMutations, HaveTheVerdictOfTheLoaderAndItsRefusalFirst)
             ++refused;
             uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
             uiconfig::Configuration configuration;
-            uiconfig::readConfiguration(root, catalogue, configuration, refusals);
+            uiconfig::readConfiguration(root, {catalogue, configuration, refusals});
             ASSERT_EQ(refusals.all().size(), 1);
             const uiconfig::Refusal& refusal = refusals.all().constFirst();
             EXPECT_EQ(refusal.sentence, message);

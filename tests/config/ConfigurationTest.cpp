@@ -19,9 +19,9 @@ class ConfigurationTest : public UIConfigTest
 protected:
     static void read(const QJsonObject& root, Configuration& configuration, Refusals& refusals)
     {
-        uiconfig::readConfiguration(
-            root, lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration(),
-            configuration, refusals);
+        const auto& catalogue =
+            lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
+        uiconfig::readConfiguration(root, {catalogue, configuration, refusals});
     }
 
     /// What a reading that goes on refuses: "place: sentence".

@@ -66,7 +66,7 @@ void expectFound(const QList<Graph>& graphs, const Find& find)
 {
     const QJsonObject nothing = written(Graph());
     for (const Graph& graph : graphs) {
-        const QString title = graph.getTitle();
+        const QString& title = graph.getTitle();
         EXPECT_EQ(written(find(title)), written(graph));
         EXPECT_EQ(written(find(title.toUpper())), nothing) << title.toStdString();
         EXPECT_EQ(written(find(title + u' ')), nothing) << title.toStdString();

@@ -17,6 +17,7 @@ SKIPPED = 77
 NAMESPACE = re.compile(r"^namespace ([\w:]+) \{", re.MULTILINE)
 EXPORTED = [re.compile(pattern, re.MULTILINE) for pattern in (
     r"^class \w+_EXPORT (\w+)",
+    r"^\w+_EXPORT [\w:<>]+ (\w+)\(",
     r"^extern template class \w+_EXPORT (\w+)<",
     r"^extern template \w+_EXPORT [\w:]+&\s+([\w:]+<[\w:]+>::\w+)\(",
     r"^extern \w+_EXPORT const \w+ (\w+);")]

@@ -136,7 +136,7 @@ Result checkDocument(const QByteArray& bytes, const QJsonObject& root)
     const auto& arrays = lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
     uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::GoOn);
     uiconfig::Configuration configuration;
-    uiconfig::readConfiguration(root, arrays, configuration, refusals);
+    uiconfig::readConfiguration(root, {arrays, configuration, refusals});
     AxesCombinationManager axes;
     axes.appendAll(std::move(configuration.axesCombinations));
 

@@ -44,9 +44,9 @@ void checkPlot(const Value& plot, std::initializer_list<QLatin1StringView> axes,
     }
 }
 
-void checkCurves(const Value& graphs, const Context& with)
+void checkCurves(const Value& section, const Context& with)
 {
-    graphs.forEach([&](const Value& graph) {
+    section.forEach([&](const Value& graph) {
         if (graph.isArray()) {
             RepeatedNames titles(u"curve of the graph"_s, with.findings);
             graph.forEach([&](const Value& curve) {

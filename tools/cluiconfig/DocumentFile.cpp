@@ -50,9 +50,9 @@ bool readDocument(const QString& path, uiconfig::Configuration& configuration, Q
         return false;
     }
     uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
-    uiconfig::readConfiguration(
-        root, lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration(),
-        configuration, refusals);
+    const auto& catalogue =
+        lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
+    uiconfig::readConfiguration(root, {catalogue, configuration, refusals});
     return refusals.isEmpty(error);
 }
 

@@ -31,8 +31,7 @@ void checkRepresentations(const Value& section, const Context& with);
 void checkMSVUnits(const Value& section, const Context& with);
 void checkTools(const Value& section, const Context& with);
 void checkColors(const Value& section, const Context& with);
-void checkStatistics(const Value& section, const Context& with);
-void checkRagonePlot(const Value& section, const Context& with);
+void checkCurves(const Value& section, const Context& with); // statistics and Ragone plots
 void checkProcessedData(const Value& section, const Context& with);
 void checkRecipe(const Value& section, const Context& with);
 void checkProcessFormula(const Value& section, const Context& with);
@@ -51,8 +50,8 @@ inline constexpr std::array SectionChecks{
     SectionCheck{uiconfig::keys::MSVUnits, checkMSVUnits},
     SectionCheck{uiconfig::keys::Tools, checkTools},
     SectionCheck{uiconfig::keys::Colors, checkColors},
-    SectionCheck{uiconfig::keys::Statistics, checkStatistics},
-    SectionCheck{uiconfig::keys::RagonePlot, checkRagonePlot},
+    SectionCheck{uiconfig::keys::Statistics, checkCurves},
+    SectionCheck{uiconfig::keys::RagonePlot, checkCurves},
     SectionCheck{uiconfig::keys::ProcessedData, checkProcessedData},
     SectionCheck{uiconfig::keys::Recipe, checkRecipe},
     SectionCheck{uiconfig::keys::ProcessFormula, checkProcessFormula},
@@ -68,8 +67,5 @@ void checkColumns(const Value& names, const QString& category, const Context& wi
 /// of names, come on top.
 void checkPlot(const Value& plot, std::initializer_list<QLatin1StringView> axes,
                std::initializer_list<QLatin1StringView> others, const Context& with);
-
-/// A section whose members are graphs, each a list of curves.
-void checkCurves(const Value& graphs, const Context& with);
 
 } // namespace cluiconfig::check
