@@ -15,7 +15,7 @@ struct Section
     enum class Type { Object, Array };
 
     QLatin1StringView key;
-    Type type;
+    Type type = Type::Object;
     QLatin1StringView missing; ///< The sentence when it is missing or has another type; empty when it may be left out.
 
     bool isRequired() const { return !missing.isEmpty(); }

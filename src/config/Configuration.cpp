@@ -23,7 +23,7 @@ constexpr QLatin1StringView MayBeMissing;
 struct SectionReader
 {
     Section section;
-    bool (*read)(const QJsonValue& section, const Reading& with);
+    bool (*read)(const QJsonValue& section, const Reading& with) = nullptr;
 };
 
 bool readAxes(const QJsonValue& section, const Reading& with)

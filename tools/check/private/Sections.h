@@ -40,7 +40,7 @@ void checkDQdU(const Value& section, const Context& with);
 struct SectionCheck
 {
     QLatin1StringView section;
-    void (*check)(const Value& section, const Context& with);
+    void (*check)(const Value& section, const Context& with) = nullptr;
 };
 
 /// What is checked beyond the structure, and where. A section without a row has nothing else to be wrong.
