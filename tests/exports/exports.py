@@ -35,9 +35,9 @@ def public_names(directory):
         text = header.read_text(encoding="utf-8")
         for pattern in EXPORTED:
             for match in pattern.finditer(text):
-                # Nothing is indented in a namespace, so the first brace in the first column ends it.
+                # Nothing is indented in a namespace: a brace in the first column ends it, and with a semicolon a class in it.
                 around = [space[1] for space in NAMESPACE.finditer(text, 0, match.start())
-                          if "\n}" not in text[space.end():match.start()]]
+                          if not re.search(r"\n\}(?!;)", text[space.end():match.start()])]
                 names.add("::".join([*around, match[1]]))
     return names
 
