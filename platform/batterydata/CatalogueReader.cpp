@@ -22,21 +22,21 @@ using cl::datastorage::UsualUnit;
 
 namespace {
 
-constexpr int catalogueVersion = 1;
+constexpr int CatalogueVersion = 1;
 
-constexpr QLatin1String categoriesKey("Categories");
-constexpr QLatin1String nameKey("Name");
-constexpr QLatin1String arraysKey("Arrays");
-constexpr QLatin1String parameterKey("Parameter");
-constexpr QLatin1String unitKey("Unit");
-constexpr QLatin1String typeKey("Type");
-constexpr QLatin1String exportKey("Export");
-constexpr QLatin1String requiredKey("Required");
-constexpr QLatin1String formulaKey("Formula");
-constexpr QLatin1String machineNameKey("Machine name");
-constexpr QLatin1String descriptionKey("Description");
+constexpr QLatin1String CategoriesKey("Categories");
+constexpr QLatin1String NameKey("Name");
+constexpr QLatin1String ArraysKey("Arrays");
+constexpr QLatin1String ParameterKey("Parameter");
+constexpr QLatin1String UnitKey("Unit");
+constexpr QLatin1String TypeKey("Type");
+constexpr QLatin1String ExportKey("Export");
+constexpr QLatin1String RequiredKey("Required");
+constexpr QLatin1String FormulaKey("Formula");
+constexpr QLatin1String MachineNameKey("Machine name");
+constexpr QLatin1String DescriptionKey("Description");
 
-constexpr std::array<std::pair<QLatin1String, DataType>, 5> dataTypes = {{
+constexpr std::array<std::pair<QLatin1String, DataType>, 5> DataTypes = {{
     {QLatin1String("Double"), DataType::Double},
     {QLatin1String("Float"), DataType::Float},
     {QLatin1String("Integer"), DataType::Integer},
@@ -44,7 +44,7 @@ constexpr std::array<std::pair<QLatin1String, DataType>, 5> dataTypes = {{
     {QLatin1String("Text"), DataType::Text},
 }};
 
-constexpr std::array<std::pair<QLatin1String, ExportCategory>, 4> exportCategories = {{
+constexpr std::array<std::pair<QLatin1String, ExportCategory>, 4> ExportCategories = {{
     {QLatin1String("Never"), ExportCategory::Never},
     {QLatin1String("On demand"), ExportCategory::OnDemand},
     {QLatin1String("Standard"), ExportCategory::Standard},
@@ -121,20 +121,20 @@ public:
 
     PhysicalParameter readParameter()
     {
-        const QString name = readText(parameterKey, Converter::toString(PhysicalParameter::None));
+        const QString name = readText(ParameterKey, Converter::toString(PhysicalParameter::None));
         const PhysicalParameter parameter = Converter::getPhysicalParameterFromString(name);
         if (Converter::toString(parameter) != name) {
-            refuseValue(parameterKey, name);
+            refuseValue(ParameterKey, name);
         }
         return parameter;
     }
 
     UsualUnit readUnit(PhysicalParameter parameter)
     {
-        const QString symbol = readText(unitKey);
+        const QString symbol = readText(UnitKey);
         const std::optional<UsualUnit> unit = Converter::getUnitFromString(symbol);
         if (!unit) {
-            refuseValue(unitKey, symbol);
+            refuseValue(UnitKey, symbol);
         } else if (Converter::getPhysicalParameterFromUnits(*unit) != parameter) {
             refuse(QStringLiteral("the unit %1 does not measure %2")
                        .arg(quoted(symbol), quoted(Converter::toString(parameter))));
@@ -161,16 +161,16 @@ private:
 
 std::unique_ptr<ClConfigDataArray> readDataArray(Entry& entry, const QString& category)
 {
-    const QString name = entry.readRequiredText(nameKey);
+    const QString name = entry.readRequiredText(NameKey);
     const PhysicalParameter parameter = entry.readParameter();
     const UsualUnit unit = entry.readUnit(parameter);
-    const DataType dataType = entry.readName(typeKey, dataTypes, QLatin1String("Double"));
-    const QString formula = entry.readText(formulaKey);
+    const DataType dataType = entry.readName(TypeKey, DataTypes, QLatin1String("Double"));
+    const QString formula = entry.readText(FormulaKey);
     const DataConfigType configType = formula.isEmpty() ? DataConfigType::Measured : DataConfigType::Computed;
     auto array = std::make_unique<ClConfigDataArray>(name, parameter, dataType, unit, configType,
-                                                     entry.readText(descriptionKey), entry.readText(machineNameKey),
-                                                     category, entry.readFlag(requiredKey), formula);
-    array->setExportCategory(entry.readName(exportKey, exportCategories, QLatin1String("Standard")));
+                                                     entry.readText(DescriptionKey), entry.readText(MachineNameKey),
+                                                     category, entry.readFlag(RequiredKey), formula);
+    array->setExportCategory(entry.readName(ExportKey, ExportCategories, QLatin1String("Standard")));
     return array;
 }
 
@@ -183,7 +183,7 @@ bool readCatalogueFile(const QString& path, QString& error, std::vector<std::uni
         return false;
     }
     QString problem;
-    if (!JsonUtils::checkVersionNumber(root, catalogueVersion, problem)) {
+    if (!JsonUtils::checkVersionNumber(root, CatalogueVersion, problem)) {
         error = quoted(path) + QStringLiteral(": ") + problem;
         return false;
     }
@@ -193,15 +193,15 @@ bool readCatalogueFile(const QString& path, QString& error, std::vector<std::uni
     };
 
     Entry document(root);
-    const QJsonArray categories = document.readArray(categoriesKey);
+    const QJsonArray categories = document.readArray(CategoriesKey);
     if (!document.getProblem().isEmpty()) {
-        return refuse(u'/' + QString(categoriesKey), document);
+        return refuse(u'/' + QString(CategoriesKey), document);
     }
     for (qsizetype i = 0; i < categories.size(); ++i) {
-        const QString pointer = QStringLiteral("/%1/%2").arg(categoriesKey, QString::number(i));
+        const QString pointer = QStringLiteral("/%1/%2").arg(CategoriesKey, QString::number(i));
         Entry category(categories.at(i));
-        const QString categoryName = category.readRequiredText(nameKey);
-        const QJsonArray entries = category.readArray(arraysKey);
+        const QString categoryName = category.readRequiredText(NameKey);
+        const QJsonArray entries = category.readArray(ArraysKey);
         if (!category.getProblem().isEmpty()) {
             return refuse(pointer, category);
         }
@@ -209,7 +209,7 @@ bool readCatalogueFile(const QString& path, QString& error, std::vector<std::uni
             Entry entry(entries.at(j));
             arrays.push_back(readDataArray(entry, categoryName));
             if (!entry.getProblem().isEmpty()) {
-                return refuse(QStringLiteral("%1/%2/%3").arg(pointer, arraysKey, QString::number(j)), entry);
+                return refuse(QStringLiteral("%1/%2/%3").arg(pointer, ArraysKey, QString::number(j)), entry);
             }
         }
     }

@@ -18,15 +18,15 @@ using cl::datastorage::UsualUnit;
 
 namespace {
 
-constexpr QLatin1String physicalParameterKey("physicalParameter");
-constexpr QLatin1String dataTypeKey("dataType");
-constexpr QLatin1String unitKey("unit");
-constexpr QLatin1String configTypeKey("configType");
-constexpr QLatin1String descriptionKey("description");
-constexpr QLatin1String machineNameKey("machineName");
-constexpr QLatin1String requiredKey("required");
-constexpr QLatin1String formulaKey("formula");
-constexpr QLatin1String exportCategoryKey("exportCategory");
+constexpr QLatin1String PhysicalParameterKey("physicalParameter");
+constexpr QLatin1String DataTypeKey("dataType");
+constexpr QLatin1String UnitKey("unit");
+constexpr QLatin1String ConfigTypeKey("configType");
+constexpr QLatin1String DescriptionKey("description");
+constexpr QLatin1String MachineNameKey("machineName");
+constexpr QLatin1String RequiredKey("required");
+constexpr QLatin1String FormulaKey("formula");
+constexpr QLatin1String ExportCategoryKey("exportCategory");
 
 bool isEnumerator(PhysicalParameter value)
 {
@@ -85,14 +85,14 @@ bool ClConfigDataArray::read(const QJsonObject& object, int version, cl::archive
 {
     ClConfigDataArray array(*this);
     QString unit;
-    const QJsonValue required = object.value(requiredKey);
+    const QJsonValue required = object.value(RequiredKey);
     const bool isRead = array.ConfigDataArray::read(object, version, context)
-        && readEnumeration(object, physicalParameterKey, array.m_physicalParameter)
-        && readEnumeration(object, dataTypeKey, array.m_dataType)
-        && readEnumeration(object, configTypeKey, array.m_configType)
-        && readEnumeration(object, exportCategoryKey, array.m_exportCategory) && readText(object, unitKey, unit)
-        && readText(object, descriptionKey, array.m_description)
-        && readText(object, machineNameKey, array.m_machineName) && readText(object, formulaKey, array.m_formula)
+        && readEnumeration(object, PhysicalParameterKey, array.m_physicalParameter)
+        && readEnumeration(object, DataTypeKey, array.m_dataType)
+        && readEnumeration(object, ConfigTypeKey, array.m_configType)
+        && readEnumeration(object, ExportCategoryKey, array.m_exportCategory) && readText(object, UnitKey, unit)
+        && readText(object, DescriptionKey, array.m_description)
+        && readText(object, MachineNameKey, array.m_machineName) && readText(object, FormulaKey, array.m_formula)
         && required.isBool();
     const std::optional<UsualUnit> knownUnit = Converter::getUnitFromString(unit);
     if (!isRead || !knownUnit) {
@@ -106,15 +106,15 @@ bool ClConfigDataArray::read(const QJsonObject& object, int version, cl::archive
 
 bool ClConfigDataArray::write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const
 {
-    object.insert(physicalParameterKey, static_cast<int>(m_physicalParameter));
-    object.insert(unitKey, Converter::toString(m_unit));
-    object.insert(dataTypeKey, static_cast<int>(m_dataType));
-    object.insert(configTypeKey, static_cast<int>(m_configType));
-    object.insert(exportCategoryKey, static_cast<int>(m_exportCategory));
-    object.insert(descriptionKey, m_description);
-    object.insert(machineNameKey, m_machineName);
-    object.insert(formulaKey, m_formula);
-    object.insert(requiredKey, m_required);
+    object.insert(PhysicalParameterKey, static_cast<int>(m_physicalParameter));
+    object.insert(UnitKey, Converter::toString(m_unit));
+    object.insert(DataTypeKey, static_cast<int>(m_dataType));
+    object.insert(ConfigTypeKey, static_cast<int>(m_configType));
+    object.insert(ExportCategoryKey, static_cast<int>(m_exportCategory));
+    object.insert(DescriptionKey, m_description);
+    object.insert(MachineNameKey, m_machineName);
+    object.insert(FormulaKey, m_formula);
+    object.insert(RequiredKey, m_required);
     return ConfigDataArray::write(object, version, context);
 }
 

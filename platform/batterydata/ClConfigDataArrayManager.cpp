@@ -19,7 +19,7 @@ using cl::datastorage::ConfigDataArray;
 
 namespace {
 
-constexpr QLatin1String dataArraysKey("dataArrays");
+constexpr QLatin1String DataArraysKey("dataArrays");
 
 // Keys share the texts of the arrays. A lookup compares views, so that it neither copies nor allocates.
 struct Identity
@@ -93,7 +93,7 @@ ClConfigDataArrayManager::~ClConfigDataArrayManager() = default;
 bool ClConfigDataArrayManager::read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context)
 {
     auto content = std::make_unique<Content>();
-    const QJsonArray dataArrays = object.value(dataArraysKey).toArray();
+    const QJsonArray dataArrays = object.value(DataArraysKey).toArray();
     for (const auto value : dataArrays) {
         auto array = std::make_unique<ClConfigDataArray>();
         if (!array->read(value.toObject(), version, context)) {
@@ -113,7 +113,7 @@ bool ClConfigDataArrayManager::write(QJsonObject& object, int version, cl::archi
         array->write(child, version, context);
         dataArrays.append(child);
     }
-    object.insert(dataArraysKey, dataArrays);
+    object.insert(DataArraysKey, dataArrays);
     return true;
 }
 

@@ -12,7 +12,7 @@ namespace cl::datastorage {
 
 namespace {
 
-constexpr int maxComponents = 4;
+constexpr int MaxComponents = 4;
 
 // A unit taken apart; the operator of a component stands before it, so the first one has none.
 struct Component
@@ -20,7 +20,7 @@ struct Component
     UsualUnitOperator op;
     UsualUnitType type;
 };
-using Components = std::array<Component, maxComponents>;
+using Components = std::array<Component, MaxComponents>;
 
 constexpr Components componentsOf(const UsualUnit& unit)
 {
@@ -36,26 +36,26 @@ constexpr UsualUnit unitOf(const Components& parts)
 }
 
 // The types fill two ranges without holes, so a type's row is a matter of subtraction.
-constexpr qint32 firstLowerType = static_cast<qint32>(UsualUnitType::Kiloampere);
-constexpr qint32 lastLowerType = static_cast<qint32>(UsualUnitType::Inch);
-constexpr qint32 firstUpperType = static_cast<qint32>(UsualUnitType::SquareNanometre);
-constexpr qint32 lastUpperType = static_cast<qint32>(UsualUnitType::SquareKilometre);
-constexpr std::size_t lowerTypes = lastLowerType - firstLowerType + 1;
+constexpr qint32 FirstLowerType = static_cast<qint32>(UsualUnitType::Kiloampere);
+constexpr qint32 LastLowerType = static_cast<qint32>(UsualUnitType::Inch);
+constexpr qint32 FirstUpperType = static_cast<qint32>(UsualUnitType::SquareNanometre);
+constexpr qint32 LastUpperType = static_cast<qint32>(UsualUnitType::SquareKilometre);
+constexpr std::size_t LowerTypes = LastLowerType - FirstLowerType + 1;
 
 constexpr const tables::UnitType* unitTypeOf(UsualUnitType type)
 {
     const auto value = static_cast<qint32>(type);
-    if (value >= firstLowerType && value <= lastLowerType) {
-        return &tables::unitTypes[static_cast<std::size_t>(value - firstLowerType)];
+    if (value >= FirstLowerType && value <= LastLowerType) {
+        return &tables::UnitTypes[static_cast<std::size_t>(value - FirstLowerType)];
     }
-    if (value >= firstUpperType && value <= lastUpperType) {
-        return &tables::unitTypes[lowerTypes + static_cast<std::size_t>(value - firstUpperType)];
+    if (value >= FirstUpperType && value <= LastUpperType) {
+        return &tables::UnitTypes[LowerTypes + static_cast<std::size_t>(value - FirstUpperType)];
     }
     return nullptr;
 }
 
-static_assert(lowerTypes + lastUpperType - firstUpperType + 1 == tables::unitTypes.size());
-static_assert(std::ranges::all_of(tables::unitTypes, [](const auto& row) { return unitTypeOf(row.type) == &row; }),
+static_assert(LowerTypes + LastUpperType - FirstUpperType + 1 == tables::UnitTypes.size());
+static_assert(std::ranges::all_of(tables::UnitTypes, [](const auto& row) { return unitTypeOf(row.type) == &row; }),
               "the rows of the unit types must be in the order of their numbers");
 
 constexpr PhysicalParameter parameterOf(UsualUnitType type)
@@ -82,10 +82,10 @@ bool haveSameForm(const UsualUnit& a, const UsualUnit& b)
 QHash<PhysicalParameter, QList<UsualUnit>> makeAvailableUnits()
 {
     QHash<PhysicalParameter, QList<UsualUnit>> units;
-    for (const tables::UnitType& row : tables::unitTypes) {
+    for (const tables::UnitType& row : tables::UnitTypes) {
         units[row.parameter].append(UsualUnit(row.type));
     }
-    for (const tables::CompoundUnit& row : tables::compoundUnits) {
+    for (const tables::CompoundUnit& row : tables::CompoundUnits) {
         units[row.parameter].append(row.unit);
     }
     return units;
@@ -94,7 +94,7 @@ QHash<PhysicalParameter, QList<UsualUnit>> makeAvailableUnits()
 QHash<QStringView, UsualUnitType> makeTypesBySymbol()
 {
     QHash<QStringView, UsualUnitType> types;
-    for (const tables::UnitType& row : tables::unitTypes) {
+    for (const tables::UnitType& row : tables::UnitTypes) {
         types.insert(view(row.symbol), row.type);
     }
     return types;
@@ -123,14 +123,14 @@ double zeroOf(const UsualUnit& unit)
 PhysicalParameter Converter::getPhysicalParameterFromString(const QString& name)
 {
     const auto row =
-        std::ranges::find_if(tables::quantities, [&](const auto& each) { return view(each.name) == name; });
-    return row == tables::quantities.end() ? PhysicalParameter::None : row->parameter;
+        std::ranges::find_if(tables::Quantities, [&](const auto& each) { return view(each.name) == name; });
+    return row == tables::Quantities.end() ? PhysicalParameter::None : row->parameter;
 }
 
 UsualUnitOperator Converter::getOperatorFromString(const QString& name)
 {
-    const auto row = std::ranges::find_if(tables::operators, [&](const auto& each) { return view(each.name) == name; });
-    return row == tables::operators.end() ? UsualUnitOperator::None : row->op;
+    const auto row = std::ranges::find_if(tables::Operators, [&](const auto& each) { return view(each.name) == name; });
+    return row == tables::Operators.end() ? UsualUnitOperator::None : row->op;
 }
 
 std::optional<UsualUnit> Converter::getUnitFromString(const QString& symbol)
@@ -161,14 +161,14 @@ std::optional<UsualUnit> Converter::getUnitFromString(const QString& symbol)
 
 QString Converter::toString(PhysicalParameter parameter)
 {
-    const auto row = std::ranges::find(tables::quantities, parameter, &tables::Quantity::parameter);
-    return row == tables::quantities.end() ? QString() : view(row->name).toString();
+    const auto row = std::ranges::find(tables::Quantities, parameter, &tables::Quantity::parameter);
+    return row == tables::Quantities.end() ? QString() : view(row->name).toString();
 }
 
 QString Converter::toString(UsualUnitOperator op)
 {
-    const auto row = std::ranges::find(tables::operators, op, &tables::Operator::op);
-    return row == tables::operators.end() ? QString() : view(row->name).toString();
+    const auto row = std::ranges::find(tables::Operators, op, &tables::Operator::op);
+    return row == tables::Operators.end() ? QString() : view(row->name).toString();
 }
 
 QString Converter::toString(UsualUnitType type)
@@ -182,8 +182,8 @@ QString Converter::toString(const UsualUnit& unit)
     QString symbol;
     for (const Component& part : componentsOf(unit)) {
         const tables::UnitType* row = unitTypeOf(part.type);
-        const auto op = std::ranges::find(tables::operators, part.op, &tables::Operator::op);
-        if (row && op != tables::operators.end()) {
+        const auto op = std::ranges::find(tables::Operators, part.op, &tables::Operator::op);
+        if (row && op != tables::Operators.end()) {
             symbol += view(op->sign);
             symbol += view(row->symbol);
         }
@@ -194,8 +194,8 @@ QString Converter::toString(const UsualUnit& unit)
 QList<QString> Converter::getPhysicalParameterNames()
 {
     QList<QString> names;
-    names.reserve(static_cast<qsizetype>(tables::quantities.size()));
-    for (const tables::Quantity& row : tables::quantities) {
+    names.reserve(static_cast<qsizetype>(tables::Quantities.size()));
+    for (const tables::Quantity& row : tables::Quantities) {
         names.append(view(row.name).toString());
     }
     return names;
@@ -204,8 +204,8 @@ QList<QString> Converter::getPhysicalParameterNames()
 QList<QString> Converter::getOperatorNames()
 {
     QList<QString> names;
-    names.reserve(static_cast<qsizetype>(tables::operators.size()));
-    for (const tables::Operator& row : tables::operators) {
+    names.reserve(static_cast<qsizetype>(tables::Operators.size()));
+    for (const tables::Operator& row : tables::Operators) {
         names.append(view(row.name).toString());
     }
     return names;
@@ -223,8 +223,8 @@ PhysicalParameter Converter::getPhysicalParameterFromUnits(const UsualUnit& unit
         return parameterOf(unit.getUnit1());
     }
     const auto row =
-        std::ranges::find_if(tables::compoundUnits, [&](const auto& each) { return haveSameForm(each.unit, unit); });
-    return row == tables::compoundUnits.end() ? PhysicalParameter::None : row->parameter;
+        std::ranges::find_if(tables::CompoundUnits, [&](const auto& each) { return haveSameForm(each.unit, unit); });
+    return row == tables::CompoundUnits.end() ? PhysicalParameter::None : row->parameter;
 }
 
 std::optional<double> Converter::convert(double value, const UsualUnit& from, const UsualUnit& to)

@@ -6,14 +6,14 @@
 namespace cl::datastorage {
 
 namespace {
-constexpr QLatin1String nameKey("name");
-constexpr QLatin1String categoryKey("category");
+constexpr QLatin1String NameKey("name");
+constexpr QLatin1String CategoryKey("category");
 } // namespace
 
 bool DataArrayIdentifier::read(const QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/)
 {
-    const QJsonValue name = object.value(nameKey);
-    const QJsonValue category = object.value(categoryKey);
+    const QJsonValue name = object.value(NameKey);
+    const QJsonValue category = object.value(CategoryKey);
     if (!name.isString() || !category.isString()) {
         return false;
     }
@@ -24,8 +24,8 @@ bool DataArrayIdentifier::read(const QJsonObject& object, int /*version*/, cl::a
 
 bool DataArrayIdentifier::write(QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/) const
 {
-    object.insert(nameKey, m_name);
-    object.insert(categoryKey, m_category);
+    object.insert(NameKey, m_name);
+    object.insert(CategoryKey, m_category);
     return true;
 }
 

@@ -14,7 +14,7 @@ namespace cl::datastorage {
 
 namespace {
 
-constexpr QLatin1String versionKey("Version");
+constexpr QLatin1String VersionKey("Version");
 
 // Where a byte of a document stands, for people: both numbers start at 1, a column is a character of the line.
 struct Position
@@ -42,12 +42,12 @@ qsizetype offsetOf(const QJsonParseError& parseError)
 
 Position positionOf(const QByteArray& bytes, qsizetype offset)
 {
-    constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
+    constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
     const QByteArrayView before = QByteArrayView(bytes).first(std::clamp<qsizetype>(offset, 0, bytes.size()));
     const qsizetype line = before.count('\n') + 1;
     QByteArrayView lineStart = before.sliced(before.lastIndexOf('\n') + 1);
-    if (line == 1 && lineStart.startsWith(byteOrderMark)) {
-        lineStart = lineStart.sliced(byteOrderMark.size());
+    if (line == 1 && lineStart.startsWith(ByteOrderMark)) {
+        lineStart = lineStart.sliced(ByteOrderMark.size());
     }
     const auto startsCharacter = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; };
     return {line, std::count_if(lineStart.begin(), lineStart.end(), startsCharacter) + 1};
@@ -95,14 +95,14 @@ bool JsonUtils::openJsonDocument(const QString& path, QString& error, QJsonObjec
 
 bool JsonUtils::checkVersionNumber(const QJsonObject& root, int version, QString& error)
 {
-    const QJsonValue value = root.value(versionKey);
+    const QJsonValue value = root.value(VersionKey);
     if (value.isDouble() && value.toDouble() == version) {
         return true;
     }
     if (value.isUndefined()) {
-        error = QStringLiteral("The format version is missing: expected \"%1\": %2").arg(versionKey).arg(version);
+        error = QStringLiteral("The format version is missing: expected \"%1\": %2").arg(VersionKey).arg(version);
     } else if (!value.isDouble()) {
-        error = QStringLiteral("The format version is not a number: expected \"%1\": %2").arg(versionKey).arg(version);
+        error = QStringLiteral("The format version is not a number: expected \"%1\": %2").arg(VersionKey).arg(version);
     } else {
         error = QStringLiteral("The format version is %1: expected %2")
                     .arg(value.toDouble(), 0, 'g', QLocale::FloatingPointShortest)

@@ -88,8 +88,8 @@ TEST(UnitsPage, ListsEveryUnitTypeWithItsSymbolItsQuantityAndItsFactor)
             rowOfType[type] = row;
         }
     }
-    EXPECT_EQ(rowOfType.size(), cl::datastorage::tables::unitTypes.size());
-    for (const auto& unit : cl::datastorage::tables::unitTypes) {
+    EXPECT_EQ(rowOfType.size(), cl::datastorage::tables::UnitTypes.size());
+    for (const auto& unit : cl::datastorage::tables::UnitTypes) {
         const QStringList row = rowOfType[static_cast<int>(unit.type)];
         ASSERT_EQ(row.size(), 7) << static_cast<int>(unit.type);
         EXPECT_EQ(row.at(2), Converter::toString(unit.type));
@@ -103,7 +103,7 @@ TEST(UnitTables, CompoundUnitsOfAQuantityStandTogether)
 {
     QSet<int> finished;
     PhysicalParameter current = PhysicalParameter::None;
-    for (const auto& row : cl::datastorage::tables::compoundUnits) {
+    for (const auto& row : cl::datastorage::tables::CompoundUnits) {
         EXPECT_FALSE(finished.contains(static_cast<int>(row.parameter))) << static_cast<int>(row.parameter);
         if (row.parameter != current) {
             finished.insert(static_cast<int>(current));
@@ -115,7 +115,7 @@ TEST(UnitTables, CompoundUnitsOfAQuantityStandTogether)
 TEST(UnitTables, CompoundUnitsHaveNoGapAndConvertWithinTheirQuantity)
 {
     std::map<PhysicalParameter, UsualUnit> first;
-    for (const auto& [parameter, unit] : cl::datastorage::tables::compoundUnits) {
+    for (const auto& [parameter, unit] : cl::datastorage::tables::CompoundUnits) {
         EXPECT_TRUE(unit.hasUnit2());
         EXPECT_TRUE(unit.hasUnit3() || !unit.hasUnit4());
         const UsualUnit& base = first.try_emplace(parameter, unit).first->second;
