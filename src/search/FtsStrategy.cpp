@@ -10,7 +10,7 @@ template <class Texts>
 std::vector<FuzzyMatch> findTexts(std::string_view query, const Texts& candidates)
 {
     query = query.substr(0, query.find('\0'));
-    if (query.empty() || query.size() > search::fts::longestQuery) {
+    if (query.empty() || query.size() > search::fts::LongestQuery) {
         return {};
     }
     return search::findMatches(query, candidates, search::FtsScorer(query));

@@ -29,7 +29,7 @@ private:
     static std::uint32_t runPoints(std::size_t length)
     {
         const auto wrapped = static_cast<std::uint32_t>(length);
-        return static_cast<std::uint32_t>(runWeight) * wrapped * wrapped;
+        return static_cast<std::uint32_t>(RunWeight) * wrapped * wrapped;
     }
 
     std::uint32_t m_value;
@@ -102,7 +102,7 @@ std::optional<int> TechniqueSearchStrategy::fuzzyMatchIterativeTechnique(std::st
     int best = calculateScore(str, matches, static_cast<int>(count), pattern);
     const PrefixRange prefix = prefixRange(pattern, str);
     WrappingScore score(best); // from here on without the prefix bonus
-    score.add(prefix.contains(0) ? -prefixBonus : 0);
+    score.add(prefix.contains(0) ? -PrefixBonus : 0);
     std::size_t end = 0;
     for (std::size_t i = 0; i < count; ++i) {
         if (i == end) {
@@ -111,15 +111,15 @@ std::optional<int> TechniqueSearchStrategy::fuzzyMatchIterativeTechnique(std::st
         score.removeRun(end - i);
         score.addRun(end - i - 1);
         score.addRun(1);
-        score.add(firstPositionBonus - wordStartPoints(str, matches[i]));
+        score.add(FirstPositionBonus - wordStartPoints(str, matches[i]));
         if (i + 1 < count && !isGap(matches[i], matches[i + 1])) {
-            score.add(-gapPenalty);
+            score.add(-GapPenalty);
         }
         if (i == 0 && matches[0] == 0) {
             continue; // the greedy path again, in which the zero belongs to its run
         }
         WrappingScore total = score;
-        total.add(prefix.contains(i + 1) ? prefixBonus : 0);
+        total.add(prefix.contains(i + 1) ? PrefixBonus : 0);
         best = std::max(best, total.value());
     }
     return best;
@@ -134,9 +134,9 @@ int TechniqueSearchStrategy::calculateScore(std::string_view str, const std::siz
     for (std::size_t i = 0; i < count; ++i) {
         isPrefix = isPrefix && search::toLower(str[i]) == search::toLower(str[matches[i]]);
         score.add(wordStartPoints(str, matches[i]));
-        score.add(i > 0 && isGap(matches[i - 1], matches[i]) ? -gapPenalty : 0);
+        score.add(i > 0 && isGap(matches[i - 1], matches[i]) ? -GapPenalty : 0);
     }
-    score.add(isPrefix ? prefixBonus : 0);
+    score.add(isPrefix ? PrefixBonus : 0);
     if (count == 0) {
         score.addRun(1);
     }

@@ -23,7 +23,7 @@ template <class Set>
 std::set<int> positionsIn(const Set& set)
 {
     std::set<int> positions;
-    for (int i = 0; i < Set::capacity; ++i) {
+    for (int i = 0; i < Set::Capacity; ++i) {
         if (set.contains(i)) {
             positions.insert(i);
         }
@@ -41,7 +41,7 @@ struct SetPair
     SetPair(GeneratedTexts& random, std::size_t count)
     {
         for (std::size_t i = 0; i < count; ++i) {
-            add(static_cast<int>(random.below(static_cast<std::size_t>(PositionSet<Words>::capacity))));
+            add(static_cast<int>(random.below(static_cast<std::size_t>(PositionSet<Words>::Capacity))));
         }
     }
     void add(int position)
@@ -79,7 +79,7 @@ TYPED_TEST_SUITE(PositionSetTest, BothSizes);
 TYPED_TEST(PositionSetTest, BehavesLikeASetOfNumbers)
 {
     constexpr int words = TypeParam::value;
-    constexpr int capacity = PositionSet<words>::capacity;
+    constexpr int capacity = PositionSet<words>::Capacity;
     GeneratedTexts random(1);
     for (int round = 0; round < 3'000; ++round) {
         const SetPair<words> set(random, random.below(round % 2 == 0 ? 20 : 4));
@@ -109,7 +109,7 @@ TYPED_TEST(PositionSetTest, BehavesLikeASetOfNumbers)
         if (!set.theirs.empty()) {
             EXPECT_EQ(positionsIn(set.ours.highest()), std::set<int>{highest});
         }
-        for (int limit = 0; limit <= PositionSet<words>::firstLimit; ++limit) {
+        for (int limit = 0; limit <= PositionSet<words>::FirstLimit; ++limit) {
             const auto end = std::next(set.theirs.begin(), std::min<std::ptrdiff_t>(limit, std::ssize(set.theirs)));
             EXPECT_EQ(positionsIn(set.ours.first(limit)), std::set<int>(set.theirs.begin(), end));
         }
@@ -136,9 +136,9 @@ void expectBlocksToAnswerLikeBytes(GeneratedTexts& random, std::size_t shortest)
 {
     using Block = search::TextBlock<Chunks, AChunk>;
     for (int round = 0; round < 600; ++round) {
-        std::string text = random.candidate(random.query(12)).substr(0, Block::capacity);
-        text.append(Block::capacity, 'a');
-        text.resize(shortest + random.below(Block::capacity - shortest + 1));
+        std::string text = random.candidate(random.query(12)).substr(0, Block::Capacity);
+        text.append(Block::Capacity, 'a');
+        text.resize(shortest + random.below(Block::Capacity - shortest + 1));
         // In a buffer of its very size, so that reading outside of it is found.
         const std::vector<char> exact(text.begin(), text.end());
         const Block block(std::string_view(exact.data(), exact.size()));

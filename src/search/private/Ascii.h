@@ -25,7 +25,7 @@ constexpr bool isWordGap(unsigned char byte)
     return byte == '_' || byte == ' ';
 }
 
-inline constexpr std::array<unsigned char, 256> lowerCase = [] {
+inline constexpr std::array<unsigned char, 256> LowerCase = [] {
     std::array<unsigned char, 256> table{};
     for (unsigned byte = 0; byte < table.size(); ++byte) {
         const auto value = static_cast<unsigned char>(byte);
@@ -36,7 +36,7 @@ inline constexpr std::array<unsigned char, 256> lowerCase = [] {
 
 constexpr unsigned char toLower(char c)
 {
-    return lowerCase[static_cast<unsigned char>(c)];
+    return LowerCase[static_cast<unsigned char>(c)];
 }
 
 inline std::string toLower(std::string_view text)

@@ -42,8 +42,8 @@ public:
 private:
     using Set = typename TextBlock<Chunks>::Set;
 
-    static constexpr std::uint64_t earlyPositions = (1U << (latePenaltyLimit / latePenalty)) - 1;
-    static constexpr std::size_t summedLetters = 4;
+    static constexpr std::uint64_t EarlyPositions = (1U << (LatePenaltyLimit / LatePenalty)) - 1;
+    static constexpr std::size_t SummedLetters = 4;
 
     bool findFirstPath()
     {
@@ -60,7 +60,7 @@ private:
             return false;
         }
 
-        const std::size_t summed = std::min(count, summedLetters);
+        const std::size_t summed = std::min(count, SummedLetters);
         Set previous = Set::none();
         for (std::size_t letter = 0; letter < summed; ++letter) {
             m_firstPoints += wordStartPoints(m_first[letter]) + adjacentPoints(m_first[letter], previous);
@@ -79,37 +79,37 @@ private:
     /// What the letters of the first path behind the first few bring in \p range.
     int laterPoints(const Set& range) const
     {
-        static_assert(wordStartBonus == 2 * adjacentBonus, "weightedCount() counts word starts twice");
-        return adjacentBonus * Set::weightedCount(m_laterAdjacent & range, m_laterWordStarts & range);
+        static_assert(WordStartBonus == 2 * AdjacentBonus, "weightedCount() counts word starts twice");
+        return AdjacentBonus * Set::weightedCount(m_laterAdjacent & range, m_laterWordStarts & range);
     }
 
     /// What the first path brings behind \p letter.
     int firstPointsBehind(std::size_t letter) const
     {
-        return letter < summedLetters ? m_firstPoints - m_pointsUpTo[letter]
+        return letter < SummedLetters ? m_firstPoints - m_pointsUpTo[letter]
                                       : laterPoints(m_first[letter].allAboveLowest());
     }
 
     /// What the first letter brings or costs at \p place for being there, words apart.
     static int startPoints(const Set& place)
     {
-        static_assert(earlyPositions == 0b111 && latePoints(3) == -latePenaltyLimit, "from 3 on all cost the same");
-        static constexpr std::array<int, 9> points = {latePoints(3), firstPositionBonus, latePoints(1),
+        static_assert(EarlyPositions == 0b111 && latePoints(3) == -LatePenaltyLimit, "from 3 on all cost the same");
+        static constexpr std::array<int, 9> Points = {latePoints(3), FirstPositionBonus, latePoints(1),
                                                       latePoints(3), latePoints(2),      latePoints(3),
                                                       latePoints(3), latePoints(3),      latePoints(3)};
-        return points[static_cast<std::size_t>(std::min<std::uint64_t>(place.word(0), 8))];
+        return Points[static_cast<std::size_t>(std::min<std::uint64_t>(place.word(0), 8))];
     }
 
     void offer(int points) { m_best = std::max(m_best, points); }
 
     /// Tries \p letter at \p places, behind \p previous and after letters that have brought \p points.
-    /// REQUIRES: there are branches left, so that letter is below branchLimit. IsFirst tells whether it is 0.
+    /// REQUIRES: there are branches left, so that letter is below BranchLimit. IsFirst tells whether it is 0.
     template <bool IsFirst>
     void explore(std::size_t letter, Set places, int points, const Set& previous)
     {
         const int count = places.count();
         if (count >= m_branches) {
-            static_assert(branchLimit + 1 <= Set::firstLimit, "first() gives no more");
+            static_assert(BranchLimit + 1 <= Set::FirstLimit, "first() gives no more");
             places = places.first(m_branches + 1);
             m_branches = 0;
         } else {
@@ -130,11 +130,11 @@ private:
             }
         }
         if constexpr (IsFirst) {
-            for (Set early = places & Set(earlyPositions); !early.empty(); early = early - early.lowest()) {
+            for (Set early = places & Set(EarlyPositions); !early.empty(); early = early - early.lowest()) {
                 complete<true>(0, early.lowest(), startPoints(early.lowest()), previous);
             }
-            places = places - Set(earlyPositions);
-            points -= latePenaltyLimit;
+            places = places - Set(EarlyPositions);
+            points -= LatePenaltyLimit;
         }
         complete<IsFirst>(letter, places, points, previous);
     }
@@ -168,14 +168,14 @@ private:
     {
         const Set starts = places & m_block.wordStarts();
         const Set beforeNext = places & next.previous();
-        const int start = wordStartBonus * count(starts);
-        const int before = adjacentBonus * count(beforeNext) + wordStartBonus * count(beforeNext & starts);
+        const int start = WordStartBonus * count(starts);
+        const int before = AdjacentBonus * count(beforeNext) + WordStartBonus * count(beforeNext & starts);
         if constexpr (IsFirst) {
             return std::max(start, before);
         } else {
             const Set behindPrevious = places & previous.next();
-            const int both = adjacentBonus * count(behindPrevious & beforeNext);
-            const int behind = adjacentBonus * count(behindPrevious) + wordStartBonus * count(behindPrevious & starts);
+            const int both = AdjacentBonus * count(behindPrevious & beforeNext);
+            const int behind = AdjacentBonus * count(behindPrevious) + WordStartBonus * count(behindPrevious & starts);
             return std::max(start, std::max(before, behind) + both);
         }
     }
@@ -202,19 +202,19 @@ private:
 
     const Set& where(std::size_t letter) const { return m_places[m_query.indices[letter]]; }
     bool isLast(std::size_t letter) const { return letter + 1 == m_query.letters.size(); }
-    int wordStartPoints(const Set& place) const { return wordStartBonus * count(place & m_block.wordStarts()); }
+    int wordStartPoints(const Set& place) const { return WordStartBonus * count(place & m_block.wordStarts()); }
     static int adjacentPoints(const Set& place, const Set& previous)
     {
-        return adjacentBonus * count(place & previous.next());
+        return AdjacentBonus * count(place & previous.next());
     }
 
     const FtsQuery& m_query;
     const TextBlock<Chunks>& m_block;
     int m_best = 0;
-    int m_branches = branchLimit;
-    std::array<Set, TextBlock<Chunks>::capacity> m_first; // the first path
+    int m_branches = BranchLimit;
+    std::array<Set, TextBlock<Chunks>::Capacity> m_first; // the first path
     int m_firstPoints = 0; // what it brings, the place of its first letter apart
-    std::array<int, summedLetters> m_pointsUpTo{}; // what its first letters bring
+    std::array<int, SummedLetters> m_pointsUpTo{}; // what its first letters bring
     Set m_laterAdjacent; // of its other letters, those that follow the one before
     Set m_laterWordStarts; // and those that start a word
     std::array<Set, 256> m_places; // of the distinct letters

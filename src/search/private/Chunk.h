@@ -18,7 +18,7 @@
 
 namespace search {
 
-inline constexpr std::size_t chunkSize = 16;
+inline constexpr std::size_t ChunkSize = 16;
 
 // NOLINTBEGIN(cppcoreguidelines-pro-type-member-init): filling what is overwritten at once would take as long as the
 // work
@@ -28,20 +28,20 @@ class PortableChunk
 public:
     PortableChunk() = default;
     /// REQUIRES: 16 bytes can be read at \p bytes.
-    explicit PortableChunk(const char* bytes) { std::memcpy(m_bytes.data(), bytes, chunkSize); }
+    explicit PortableChunk(const char* bytes) { std::memcpy(m_bytes.data(), bytes, ChunkSize); }
 
     PortableChunk inLowerCase() const
     {
         PortableChunk lower;
-        for (std::size_t i = 0; i < chunkSize; ++i) {
-            lower.m_bytes[i] = lowerCase[m_bytes[i]];
+        for (std::size_t i = 0; i < ChunkSize; ++i) {
+            lower.m_bytes[i] = LowerCase[m_bytes[i]];
         }
         return lower;
     }
     unsigned equalTo(unsigned char byte) const
     {
         unsigned bits = 0;
-        for (std::size_t i = 0; i < chunkSize; ++i) {
+        for (std::size_t i = 0; i < ChunkSize; ++i) {
             bits |= (m_bytes[i] == byte ? 1U : 0U) << i;
         }
         return bits;
@@ -51,7 +51,7 @@ public:
     unsigned wordStarts(const PortableChunk& previous) const
     {
         unsigned bits = 0;
-        for (std::size_t i = 0; i < chunkSize; ++i) {
+        for (std::size_t i = 0; i < ChunkSize; ++i) {
             const unsigned char before = previous.m_bytes[i];
             const bool isStart = isWordGap(before) || (isLower(before) && isUpper(m_bytes[i]));
             bits |= (isStart ? 1U : 0U) << i;
@@ -63,12 +63,12 @@ public:
     {
         PortableChunk moved;
         moved.m_bytes[0] = 0;
-        std::memcpy(moved.m_bytes.data() + 1, m_bytes.data(), chunkSize - 1);
+        std::memcpy(moved.m_bytes.data() + 1, m_bytes.data(), ChunkSize - 1);
         return moved;
     }
 
 private:
-    std::array<unsigned char, chunkSize> m_bytes;
+    std::array<unsigned char, ChunkSize> m_bytes;
 };
 
 #ifdef CLCONFIGUI_SEARCH_SSE2

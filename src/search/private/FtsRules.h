@@ -9,26 +9,26 @@
 
 namespace search::fts {
 
-inline constexpr int basePoints = 100;
-inline constexpr int latePenalty = 5; // for each byte before the first letter found
-inline constexpr int latePenaltyLimit = 15;
-inline constexpr int adjacentBonus = 15;
-inline constexpr int wordStartBonus = 30;
-inline constexpr int firstPositionBonus = 15;
-inline constexpr std::size_t longestQuery = 256;
+inline constexpr int BasePoints = 100;
+inline constexpr int LatePenalty = 5; // for each byte before the first letter found
+inline constexpr int LatePenaltyLimit = 15;
+inline constexpr int AdjacentBonus = 15;
+inline constexpr int WordStartBonus = 30;
+inline constexpr int FirstPositionBonus = 15;
+inline constexpr std::size_t LongestQuery = 256;
 
 /// How many branches an exploration follows besides the first path.
-inline constexpr int branchLimit = 8;
+inline constexpr int BranchLimit = 8;
 
 constexpr int latePoints(int position)
 {
-    return -std::min(latePenalty * position, latePenaltyLimit);
+    return -std::min(LatePenalty * position, LatePenaltyLimit);
 }
 
 /// What remains of the base when each byte of the text that is not matched costs a point. Wraps for texts of 2 GiB.
 inline std::uint32_t commonPoints(std::size_t textLength, std::size_t queryLength)
 {
-    return static_cast<std::uint32_t>(basePoints) - static_cast<std::uint32_t>(textLength - queryLength);
+    return static_cast<std::uint32_t>(BasePoints) - static_cast<std::uint32_t>(textLength - queryLength);
 }
 
 } // namespace search::fts

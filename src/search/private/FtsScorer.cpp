@@ -50,18 +50,18 @@ public:
 
     std::optional<int> score()
     {
-        explore(0, 0, 0, nowhere);
+        explore(0, 0, 0, Nowhere);
         return m_best.score();
     }
 
 private:
-    static constexpr int nowhere = -2; // a position that none follows
+    static constexpr int Nowhere = -2; // a position that none follows
 
     /// Places the letters from \p letter on at \p from or behind, after those that have brought \p points and of which
     /// the last one is at \p previous, modulo 256.
     void explore(std::size_t letter, std::size_t from, int points, int previous)
     {
-        std::array<std::size_t, branchLimit + 1> places; // NOLINT(cppcoreguidelines-pro-type-member-init)
+        std::array<std::size_t, BranchLimit + 1> places; // NOLINT(cppcoreguidelines-pro-type-member-init)
         int count = 0;
         for (std::size_t at = find(letter, from); at < m_text.size() && count <= m_branches;
              at = find(letter, at + 1)) {
@@ -90,20 +90,20 @@ private:
 
     int pointsAt(int position, int previous) const
     {
-        const int adjacent = position == previous + 1 ? adjacentBonus : 0;
+        const int adjacent = position == previous + 1 ? AdjacentBonus : 0;
         if (position == 0) {
-            return adjacent + firstPositionBonus;
+            return adjacent + FirstPositionBonus;
         }
         const auto before = static_cast<unsigned char>(m_text[static_cast<std::size_t>(position) - 1]);
         const auto here = static_cast<unsigned char>(m_text[static_cast<std::size_t>(position)]);
         const bool wordStart = isWordGap(before) || (isLower(before) && isUpper(here));
-        return adjacent + (wordStart ? wordStartBonus : 0);
+        return adjacent + (wordStart ? WordStartBonus : 0);
     }
 
     std::string_view m_letters;
     std::string_view m_text;
     BestPlacement m_best;
-    int m_branches = branchLimit;
+    int m_branches = BranchLimit;
 };
 
 } // namespace
@@ -123,19 +123,19 @@ FtsScorer::FtsScorer(std::string_view query)
 
 std::optional<int> FtsScorer::score(std::string_view text) const
 {
-    if (text.size() < chunkSize || text.size() > TextBlock<8>::capacity) {
+    if (text.size() < ChunkSize || text.size() > TextBlock<8>::Capacity) {
         text = text.substr(0, text.find('\0'));
     }
     if (text.size() < m_query.letters.size()) {
         return std::nullopt;
     }
-    if (text.size() <= TextBlock<4>::capacity) {
+    if (text.size() <= TextBlock<4>::Capacity) {
         return scoreBlock<4>(text);
     }
-    if (text.size() <= TextBlock<5>::capacity) {
+    if (text.size() <= TextBlock<5>::Capacity) {
         return scoreBlock<5>(text);
     }
-    if (text.size() <= TextBlock<8>::capacity) {
+    if (text.size() <= TextBlock<8>::Capacity) {
         return scoreBlock<8>(text);
     }
     return LongTextExploration(m_query.letters, text).score();
@@ -145,7 +145,7 @@ template <int Chunks>
 std::optional<int> FtsScorer::scoreBlock(std::string_view text) const
 {
     const TextBlock<Chunks> block(text);
-    if (text.size() >= chunkSize && !block.where('\0').empty()) {
+    if (text.size() >= ChunkSize && !block.where('\0').empty()) {
         return score(text.substr(0, text.find('\0')));
     }
     return BlockExploration<Chunks>(m_query, block).score(text.size());

@@ -17,8 +17,8 @@ template <int Words>
 class PositionSet
 {
 public:
-    static constexpr int capacity = 64 * Words;
-    static constexpr int firstLimit = 9;
+    static constexpr int Capacity = 64 * Words;
+    static constexpr int FirstLimit = 9;
 
     /// Holds anything: assign before use.
     PositionSet() = default;
@@ -127,7 +127,7 @@ public:
         }
     }
 
-    /// The lowest \p limit positions, or all if there are no more. REQUIRES: limit is at most firstLimit.
+    /// The lowest \p limit positions, or all if there are no more. REQUIRES: limit is at most FirstLimit.
     PositionSet first(int limit) const
     {
         if constexpr (Words == 2) {
@@ -203,7 +203,7 @@ private:
     /// All steps are taken, because how many are needed is different each time.
     static std::uint64_t lowestBits(std::uint64_t word, int limit)
     {
-        std::array<std::uint64_t, firstLimit + 1> rest;
+        std::array<std::uint64_t, FirstLimit + 1> rest;
         rest[0] = word;
         for (std::size_t i = 1; i < rest.size(); ++i) {
             rest[i] = rest[i - 1] & (rest[i - 1] - 1);

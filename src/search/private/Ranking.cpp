@@ -10,11 +10,11 @@ namespace search {
 
 namespace {
 
-constexpr unsigned digitBits = 11;
-constexpr std::size_t digitCount = std::size_t{1} << digitBits;
+constexpr unsigned DigitBits = 11;
+constexpr std::size_t DigitCount = std::size_t{1} << DigitBits;
 
 /// Below this a sort by comparisons is done before the digits are counted.
-constexpr std::size_t fewMatches = 512;
+constexpr std::size_t FewMatches = 512;
 
 /// A digit of the distance to the best score, so that the best comes first.
 class Digit
@@ -27,7 +27,7 @@ public:
     }
     std::size_t operator()(const FuzzyMatch& match) const
     {
-        return ((m_best - static_cast<std::uint32_t>(match.score)) >> m_shift) % digitCount;
+        return ((m_best - static_cast<std::uint32_t>(match.score)) >> m_shift) % DigitCount;
     }
 
 private:
@@ -51,7 +51,7 @@ struct AsIndex
 template <class As, class Iterator>
 std::vector<typename As::Type> distribute(Iterator begin, Iterator end, Digit digit)
 {
-    std::array<std::size_t, digitCount> next{};
+    std::array<std::size_t, DigitCount> next{};
     for (Iterator match = begin; match != end; ++match) {
         ++next[digit(*match)];
     }
@@ -69,7 +69,7 @@ std::vector<typename As::Type> distribute(Iterator begin, Iterator end, Digit di
 template <class As>
 std::vector<typename As::Type> ordered(std::vector<FuzzyMatch> matches)
 {
-    if (matches.size() < fewMatches) {
+    if (matches.size() < FewMatches) {
         std::sort(matches.begin(), matches.end(), [](const FuzzyMatch& left, const FuzzyMatch& right) {
             return left.score != right.score ? left.score > right.score : left.index > right.index;
         });
@@ -86,13 +86,13 @@ std::vector<typename As::Type> ordered(std::vector<FuzzyMatch> matches)
                             [](const FuzzyMatch& left, const FuzzyMatch& right) { return left.score < right.score; });
     const int top = best->score;
     std::uint32_t distance = static_cast<std::uint32_t>(top) - static_cast<std::uint32_t>(worst->score);
-    if (distance < digitCount) {
+    if (distance < DigitCount) {
         return distribute<As>(matches.rbegin(), matches.rend(), Digit(top, 0));
     }
     matches = distribute<AsMatch>(matches.rbegin(), matches.rend(), Digit(top, 0));
-    distance >>= digitBits;
-    unsigned shift = digitBits;
-    for (; distance >= digitCount; distance >>= digitBits, shift += digitBits) {
+    distance >>= DigitBits;
+    unsigned shift = DigitBits;
+    for (; distance >= DigitCount; distance >>= DigitBits, shift += DigitBits) {
         matches = distribute<AsMatch>(matches.begin(), matches.end(), Digit(top, shift));
     }
     return distribute<As>(matches.begin(), matches.end(), Digit(top, shift));

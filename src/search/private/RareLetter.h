@@ -22,16 +22,16 @@ public:
     template <class Texts>
     RareLetter(std::string_view query, const Texts& candidates)
     {
-        if (candidates.size() < shortList) {
+        if (candidates.size() < ShortList) {
             return;
         }
         std::array<std::size_t, 256> counts{};
-        for (std::size_t i = 0; i < sampleSize; ++i) {
-            for (const char c : candidates[i * (candidates.size() / sampleSize)]) {
+        for (std::size_t i = 0; i < SampleSize; ++i) {
+            for (const char c : candidates[i * (candidates.size() / SampleSize)]) {
                 ++counts[toLower(c)];
             }
         }
-        std::size_t lowest = sampleSize / 4; // a more common one would be looked up for nothing too often
+        std::size_t lowest = SampleSize / 4; // a more common one would be looked up for nothing too often
         for (const char c : query) {
             if (counts[toLower(c)] < lowest) {
                 lowest = counts[toLower(c)];
@@ -45,17 +45,17 @@ public:
     bool isMissingIn(std::string_view text) const { return m_isKnown && !isIn(text); }
 
 private:
-    static constexpr std::size_t shortList = 1024;
-    static constexpr std::size_t sampleSize = 64;
+    static constexpr std::size_t ShortList = 1024;
+    static constexpr std::size_t SampleSize = 64;
 
     bool isIn(std::string_view text) const
     {
-        if (text.size() < chunkSize) {
+        if (text.size() < ChunkSize) {
             return std::any_of(text.begin(), text.end(), [this](char c) { return toLower(c) == m_lower; });
         }
         // The last chunk ends with the text and overlaps the one before.
-        const std::size_t last = text.size() - chunkSize;
-        for (std::size_t start = 0; start < last; start += chunkSize) {
+        const std::size_t last = text.size() - ChunkSize;
+        for (std::size_t start = 0; start < last; start += ChunkSize) {
             if (isIn(Chunk(text.data() + start))) {
                 return true;
             }

@@ -28,7 +28,7 @@ public:
     {
         const auto* begin = reinterpret_cast<const unsigned char*>(text.data());
         const unsigned char* end = begin + text.size();
-        std::uint64_t found = 1 | std::uint64_t{1} << backShift;
+        std::uint64_t found = 1 | std::uint64_t{1} << BackShift;
         while (end - begin >= 8) {
             found += found & (m_frontRows[begin[0]] | m_backRows[end[-1]]);
             found += found & (m_frontRows[begin[1]] | m_backRows[end[-2]]);
@@ -41,12 +41,12 @@ public:
             found += found & m_frontRows[*begin++];
         }
         const int atFront = std::countr_zero(static_cast<std::uint32_t>(found));
-        const int atBack = std::countr_zero(static_cast<std::uint32_t>(found >> backShift));
+        const int atBack = std::countr_zero(static_cast<std::uint32_t>(found >> BackShift));
         return atFront + atBack >= m_length;
     }
 
 private:
-    static constexpr int backShift = 32;
+    static constexpr int BackShift = 32;
 
     int m_length;
     std::array<std::uint64_t, 256> m_frontRows{};

@@ -10,28 +10,28 @@
 
 namespace search::technique {
 
-inline constexpr int gapPenalty = 2;
-inline constexpr int basePoints = 100;
-inline constexpr int prefixBonus = 50;
-inline constexpr int runWeight = 15;
-inline constexpr int firstPositionBonus = 15;
-inline constexpr int wordStartBonus = 30;
-inline constexpr int pieceBonuses = 100 + 75 + 50; // for the pieces between commas, which every text contains
-inline constexpr std::size_t shortText = 200;
-inline constexpr int shortTextPenalty = 15;
+inline constexpr int GapPenalty = 2;
+inline constexpr int BasePoints = 100;
+inline constexpr int PrefixBonus = 50;
+inline constexpr int RunWeight = 15;
+inline constexpr int FirstPositionBonus = 15;
+inline constexpr int WordStartBonus = 30;
+inline constexpr int PieceBonuses = 100 + 75 + 50; // for the pieces between commas, which every text contains
+inline constexpr std::size_t ShortText = 200;
+inline constexpr int ShortTextPenalty = 15;
 
 /// What every path through \p text scores, wherever it leads.
 inline int commonPoints(std::string_view text)
 {
-    return basePoints + pieceBonuses - (text.size() < shortText ? shortTextPenalty : 0);
+    return BasePoints + PieceBonuses - (text.size() < ShortText ? ShortTextPenalty : 0);
 }
 
 inline int wordStartPoints(std::string_view text, std::size_t position)
 {
     if (position == 0) {
-        return firstPositionBonus;
+        return FirstPositionBonus;
     }
-    return isWordGap(static_cast<unsigned char>(text[position - 1])) ? wordStartBonus : 0;
+    return isWordGap(static_cast<unsigned char>(text[position - 1])) ? WordStartBonus : 0;
 }
 
 /// Says which paths have the prefix bonus: those whose first k positions are zero, for every k from first to last.

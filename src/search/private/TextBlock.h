@@ -15,22 +15,22 @@ template <int Chunks, class AChunk = Chunk>
 class TextBlock
 {
 public:
-    static constexpr int words = Chunks > 4 ? 2 : 1;
-    static constexpr std::size_t capacity = Chunks * chunkSize;
-    using Set = PositionSet<words>;
+    static constexpr int Words = Chunks > 4 ? 2 : 1;
+    static constexpr std::size_t Capacity = Chunks * ChunkSize;
+    using Set = PositionSet<Words>;
 
-    /// REQUIRES: text has at most `capacity` bytes; more than 64 if there are more than four chunks, and 80 or more if
+    /// REQUIRES: text has at most `Capacity` bytes; more than 64 if there are more than four chunks, and 80 or more if
     /// there are more than five.
     explicit TextBlock(std::string_view text)
     {
         // The last chunk ends with the text and overlaps the one before, so that all are read from the text itself.
-        std::array<char, chunkSize> padded{};
+        std::array<char, ChunkSize> padded{};
         const char* bytes = text.data();
-        if (text.size() < chunkSize) {
+        if (text.size() < ChunkSize) {
             std::memcpy(padded.data(), bytes, text.size());
             bytes = padded.data();
         } else {
-            m_lastOffset = text.size() - chunkSize;
+            m_lastOffset = text.size() - ChunkSize;
         }
         m_wordStarts = collect([&](std::size_t i) {
             const std::size_t start = offset(i);
@@ -51,26 +51,26 @@ public:
     const Set& wordStarts() const { return m_wordStarts; }
 
 private:
-    static constexpr std::size_t chunksInWord = 4;
+    static constexpr std::size_t ChunksInWord = 4;
 
-    std::size_t offset(std::size_t chunk) const { return std::min(chunk * chunkSize, m_lastOffset); }
+    std::size_t offset(std::size_t chunk) const { return std::min(chunk * ChunkSize, m_lastOffset); }
 
     /// The positions that have a bit among the 16 that \p bitsOf gives for each chunk.
     template <class Bits>
     Set collect(Bits bitsOf) const
     {
-        std::array<std::uint64_t, words> bits{};
+        std::array<std::uint64_t, Words> bits{};
         for (std::size_t i = 0; i < m_chunks.size(); ++i) {
             const std::uint64_t found = bitsOf(i);
-            if (i < chunksInWord) {
+            if (i < ChunksInWord) {
                 bits[0] |= found << offset(i);
             } else if (Chunks == 5) {
-                bits[words - 1] |= found >> (capacity - chunkSize - m_lastOffset);
+                bits[Words - 1] |= found >> (Capacity - ChunkSize - m_lastOffset);
             } else {
-                bits[words - 1] |= found << (offset(i) - 64);
+                bits[Words - 1] |= found << (offset(i) - 64);
             }
         }
-        if constexpr (words == 2) {
+        if constexpr (Words == 2) {
             return Set(bits[0], bits[1]);
         } else {
             return Set(bits[0]);
