@@ -67,9 +67,9 @@ void growHeap()
 
 void emptyCaches()
 {
-    constexpr std::size_t lineSize = 64;
+    constexpr std::size_t LineSize = 64;
     static std::vector<char> other(128 * MiB);
-    for (std::size_t i = 0; i < other.size(); i += lineSize) {
+    for (std::size_t i = 0; i < other.size(); i += LineSize) {
         ++other[i];
     }
     benchmark::DoNotOptimize(other.data());

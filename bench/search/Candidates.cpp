@@ -7,8 +7,8 @@ namespace bench {
 
 namespace {
 
-constexpr std::size_t shortest = 10;
-constexpr std::size_t longest = 80;
+constexpr std::size_t Shortest = 10;
+constexpr std::size_t Longest = 80;
 
 /// A generator of our own, because the distributions of <random> differ between standard libraries.
 class Dice
@@ -41,38 +41,38 @@ private:
     std::uint64_t m_state = 0x9E3779B97F4A7C15U;
 };
 
-constexpr std::array<const char*, 12> manners = {"",      "",      "",           "",        "",        "",
+constexpr std::array<const char*, 12> Manners = {"",      "",      "",           "",        "",        "",
                                                  "Fast ", "Slow ", "Staircase ", "Cyclic ", "Pulsed ", "Full-cell "};
-constexpr std::array<const char*, 16> methods = {
+constexpr std::array<const char*, 16> Methods = {
     "voltammetry",  "chronoamperometry", "potentiometry",        "impedance",
     "polarisation", "titration",         "Open Circuit Voltage", "Linear Sweep",
     "square wave",  "rate capability",   "self-discharge",       "charge",
     "discharge",    "Coulometry",        "Constant Current",     "rest"};
-constexpr std::array<const char*, 12> shortNames = {"CV",   "LSV",  "CA",  "CP",  "OCV",   "EIS",
+constexpr std::array<const char*, 12> ShortNames = {"CV",   "LSV",  "CA",  "CP",  "OCV",   "EIS",
                                                     "GITT", "PITT", "DPV", "SWV", "CC_CV", "CstC"};
-constexpr std::array<const char*, 8> aliases = {"", "", "", "", ", rest", ", sweep", ", hold", ", Cell_Test"};
-constexpr std::array<const char*, 8> volumes = {"/data", "/home/lab", "/mnt", "/srv", "D:", "", "/media/ssd", "/tmp"};
-constexpr std::array<const char*, 8> projects = {"lfp", "nmc811", "LTO", "Na_ion", "anode", "solid", "p", "Ageing"};
-constexpr std::array<const char*, 6> endings = {".csv", ".txt", ".h5", ".json", "", ".dat"};
+constexpr std::array<const char*, 8> Aliases = {"", "", "", "", ", rest", ", sweep", ", hold", ", Cell_Test"};
+constexpr std::array<const char*, 8> Volumes = {"/data", "/home/lab", "/mnt", "/srv", "D:", "", "/media/ssd", "/tmp"};
+constexpr std::array<const char*, 8> Projects = {"lfp", "nmc811", "LTO", "Na_ion", "anode", "solid", "p", "Ageing"};
+constexpr std::array<const char*, 6> Endings = {".csv", ".txt", ".h5", ".json", "", ".dat"};
 
 std::string technique(Dice& dice)
 {
     if (dice.below(10) == 0) {
-        return dice.pick(methods) + " " + dice.pick(shortNames) + "_" + dice.digits(4) + dice.pick(aliases);
+        return dice.pick(Methods) + " " + dice.pick(ShortNames) + "_" + dice.digits(4) + dice.pick(Aliases);
     }
     const bool exotic = dice.below(40) == 0; // the only names with the letters that RareLetter queries ask for
-    return dice.pick(manners) + dice.pick(methods) + (exotic ? " at 50 kHz" : "") + " step " + dice.digits(2)
-        + " of characterisation protocol " + dice.digits(2) + ", " + dice.pick(shortNames) + dice.pick(aliases);
+    return dice.pick(Manners) + dice.pick(Methods) + (exotic ? " at 50 kHz" : "") + " step " + dice.digits(2)
+        + " of characterisation protocol " + dice.digits(2) + ", " + dice.pick(ShortNames) + dice.pick(Aliases);
 }
 
 std::string path(Dice& dice)
 {
-    const std::string file = dice.pick(shortNames) + "_" + dice.digits(3) + dice.pick(endings);
+    const std::string file = dice.pick(ShortNames) + "_" + dice.digits(3) + dice.pick(Endings);
     if (dice.below(10) == 0) {
-        return dice.pick(projects) + "_" + dice.digits(5) + "/" + file;
+        return dice.pick(Projects) + "_" + dice.digits(5) + "/" + file;
     }
     const bool exotic = dice.below(40) == 0;
-    return dice.pick(volumes) + "/battery/projects/" + dice.pick(projects) + "/cells/" + (exotic ? "QX-z" : "A")
+    return dice.pick(Volumes) + "/battery/projects/" + dice.pick(Projects) + "/cells/" + (exotic ? "QX-z" : "A")
         + dice.digits(4) + "/cycling/" + file;
 }
 
@@ -85,7 +85,7 @@ std::vector<std::string> makeNames(NameKind kind, std::size_t count)
     names.reserve(count);
     while (names.size() < count) {
         std::string name = kind == NameKind::Technique ? technique(dice) : path(dice);
-        if (name.size() >= shortest && name.size() <= longest) {
+        if (name.size() >= Shortest && name.size() <= Longest) {
             names.push_back(std::move(name));
         }
     }

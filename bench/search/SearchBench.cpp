@@ -22,9 +22,9 @@
 
 namespace {
 
-constexpr std::size_t nameCount = 100'000;
-constexpr std::size_t longestLiteralQuery = 10; // the literal version takes 2 to the power of it
-constexpr std::size_t literalNameCount = 2'000;
+constexpr std::size_t NameCount = 100'000;
+constexpr std::size_t LongestLiteralQuery = 10; // the literal version takes 2 to the power of it
+constexpr std::size_t LiteralNameCount = 2'000;
 
 /// The processor time of this thread in seconds, which other programs do not add to.
 double now()
@@ -59,8 +59,8 @@ std::uint64_t readEveryByte(const std::vector<std::string>& names, const std::ar
 
 const std::vector<std::string>& namesOf(bench::NameKind kind)
 {
-    static const std::vector<std::string> techniques = bench::makeNames(bench::NameKind::Technique, nameCount);
-    static const std::vector<std::string> paths = bench::makeNames(bench::NameKind::Path, nameCount);
+    static const std::vector<std::string> techniques = bench::makeNames(bench::NameKind::Technique, NameCount);
+    static const std::vector<std::string> paths = bench::makeNames(bench::NameKind::Path, NameCount);
     return kind == bench::NameKind::Technique ? techniques : paths;
 }
 
@@ -94,7 +94,7 @@ template <class Score>
 void literally(benchmark::State& state, bench::NameKind kind, std::string_view query, Score score)
 {
     const std::vector<std::string>& all = namesOf(kind);
-    const std::vector<std::string> names(all.begin(), all.begin() + literalNameCount);
+    const std::vector<std::string> names(all.begin(), all.begin() + LiteralNameCount);
     const std::string text(query);
     double best = std::numeric_limits<double>::max();
     for (auto _ : state) {
@@ -129,7 +129,7 @@ bool registerAll()
             add("search text/" + what, [=](benchmark::State& state) { againstFloor<FtsStrategy>(state, kind, query); });
             add("literal text/" + what,
                 [=](benchmark::State& state) { literally(state, kind, query.text, literal::textScore); });
-            if (query.text.size() <= longestLiteralQuery) {
+            if (query.text.size() <= LongestLiteralQuery) {
                 add("literal technique/" + what,
                     [=](benchmark::State& state) { literally(state, kind, query.text, literal::techniqueScore); });
             }
@@ -138,6 +138,6 @@ bool registerAll()
     return true;
 }
 
-const bool registered = registerAll();
+const bool Registered = registerAll();
 
 } // namespace

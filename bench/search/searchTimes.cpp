@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr std::size_t nameCount = 100'000;
-constexpr int turns = 40;
+constexpr std::size_t NameCount = 100'000;
+constexpr int Turns = 40;
 
 template <class Strategy>
 double nanosecondsPerName(const std::string& query, const std::vector<std::string>& names, std::size_t& found)
@@ -23,7 +23,7 @@ double nanosecondsPerName(const std::string& query, const std::vector<std::strin
     using Nanoseconds = std::chrono::duration<double, std::nano>;
     const Strategy strategy;
     Nanoseconds best = Nanoseconds::max();
-    for (int i = 0; i < turns; ++i) {
+    for (int i = 0; i < Turns; ++i) {
         const auto start = std::chrono::steady_clock::now();
         found = strategy.applyAlgorithm(query, names).size();
         best = std::min<Nanoseconds>(best, std::chrono::steady_clock::now() - start);
@@ -38,7 +38,7 @@ int main()
 {
     for (const auto kind : {bench::NameKind::Technique, bench::NameKind::Path}) {
         const char* what = kind == bench::NameKind::Technique ? "technique names" : "path names";
-        const std::vector<std::string> names = bench::makeNames(kind, nameCount);
+        const std::vector<std::string> names = bench::makeNames(kind, NameCount);
         for (const bench::Query& query : bench::queriesFor(kind)) {
             const std::string text(query.text);
             std::size_t found = 0;

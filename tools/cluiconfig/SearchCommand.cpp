@@ -36,12 +36,12 @@ struct SearchOptions
 
 QByteArray readStandardInput()
 {
-    constexpr qsizetype pieceSize = qsizetype{1} << 20;
+    constexpr qsizetype PieceSize = qsizetype{1} << 20;
     QByteArray bytes;
     qsizetype size = 0;
-    for (qsizetype found = pieceSize; found == pieceSize; size += found) {
-        bytes.resize(size + pieceSize);
-        found = static_cast<qsizetype>(std::fread(bytes.data() + size, 1, static_cast<std::size_t>(pieceSize), stdin));
+    for (qsizetype found = PieceSize; found == PieceSize; size += found) {
+        bytes.resize(size + PieceSize);
+        found = static_cast<qsizetype>(std::fread(bytes.data() + size, 1, static_cast<std::size_t>(PieceSize), stdin));
     }
     if (std::ferror(stdin) != 0) {
         fail(std::string("standard input: ") + std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): one thread
