@@ -21,9 +21,11 @@ thread_local long long count = 0;
 
 // glibc's own functions, which the ones below replace for the whole process, Qt included.
 extern "C" {
+// NOLINTBEGIN(readability-identifier-naming): glibc calls them so
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t number, std::size_t size);
 void* __libc_realloc(void* memory, std::size_t size);
+// NOLINTEND(readability-identifier-naming)
 
 void* malloc(std::size_t size)
 {

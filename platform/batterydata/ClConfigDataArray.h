@@ -52,6 +52,7 @@ public:
     void setExportCategory(ExportCategory exportCategory) { m_exportCategory = exportCategory; }
 
     /// The category of what a potentiostat measures: every array of a recorded data row.
+    // NOLINTNEXTLINE(readability-identifier-naming): the application calls it so
     static QString PotentiostatMeasure();
 
 private:

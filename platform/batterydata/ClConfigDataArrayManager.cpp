@@ -36,14 +36,14 @@ struct IdentityView
 
 struct IdentityHash
 {
-    using is_transparent = void;
+    using is_transparent = void; // NOLINT(readability-identifier-naming): the standard library looks for it
     std::size_t operator()(const IdentityView& key) const { return qHash(key.category, qHash(key.name)); }
     std::size_t operator()(const Identity& key) const { return (*this)(IdentityView{key.name, key.category}); }
 };
 
 struct IdentityEqual
 {
-    using is_transparent = void;
+    using is_transparent = void; // NOLINT(readability-identifier-naming): the standard library looks for it
     bool operator()(const IdentityView& a, const Identity& b) const
     {
         return a.name == b.name && a.category == b.category;

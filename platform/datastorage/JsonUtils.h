@@ -28,8 +28,10 @@ public:
     static bool checkVersionNumber(const QJsonObject& root, int version, QString& error);
 
     /// The texts of \p array in its order. An element that is not a string gives an empty text.
+    // NOLINTNEXTLINE(readability-identifier-naming): the application calls it so
     static QStringList QStringListFromJsonArray(const QJsonArray& array);
     /// An array of strings, one a text of \p list, in its order.
+    // NOLINTNEXTLINE(readability-identifier-naming): the application calls it so
     static QJsonArray QStringListToJsonArray(const QStringList& list);
 };
 

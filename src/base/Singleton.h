@@ -23,7 +23,7 @@ class Singleton
 {
 public:
     /// Proof that the caller is instance(): nobody else can make one, not even with `{}`.
-    class token
+    class token // NOLINT(readability-identifier-naming): the application writes it so
     {
         friend class Singleton;
         // User-provided on purpose: up to C++17 a defaulted one would let `{}` through.

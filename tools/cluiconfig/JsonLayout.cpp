@@ -53,6 +53,7 @@ public:
 
     bool isTooDeep() const { return m_depth > DeepestNesting; }
 
+    // NOLINTBEGIN(readability-identifier-naming): RapidJSON's reader calls them so
     bool Null() { return append(4); }
     bool Bool(bool value) { return append(value ? 4 : 5); }
     bool RawNumber(const char* /*digits*/, rapidjson::SizeType size, bool /*copy*/) { return append(size); }
@@ -72,6 +73,7 @@ public:
     bool Int64(std::int64_t /*value*/) { return false; }
     bool Uint64(std::uint64_t /*value*/) { return false; }
     bool Double(double /*value*/) { return false; }
+    // NOLINTEND(readability-identifier-naming)
 
 private:
     bool start()
