@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <chrono>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -54,7 +56,7 @@ QJsonValue enlarged(const QJsonValue& value, int factor)
 /// The shipped document with the lists of every section \p factor times as long, indented as a person would keep it.
 QByteArray documentBytes(int factor)
 {
-    const QByteArray shipped = fileContent(QStringLiteral(SHIPPED_DOCUMENT));
+    const QByteArray shipped = fileContent(QString::fromUtf8(SHIPPED_DOCUMENT));
     if (factor == 1) {
         return shipped;
     }
@@ -65,7 +67,7 @@ void load(benchmark::State& state)
 {
     growHeap(); // a load keeps its result and meets new pages otherwise; the parse keeps nothing
     const QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("UIConfig.json"));
+    const QString path = directory.filePath(u"UIConfig.json"_s);
     const QByteArray bytes = documentBytes(static_cast<int>(state.range(0)));
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {

@@ -6,6 +6,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using cl::datastorage::Converter;
@@ -14,7 +16,7 @@ using cl::datastorage::Converter;
 void getGraphItemFromTitle(benchmark::State& state)
 {
     StatisticsItem graph;
-    const auto title = [](qint64 number) { return QStringLiteral("Capacity of cell %1").arg(number); };
+    const auto title = [](qint64 number) { return u"Capacity of cell %1"_s.arg(number); };
     for (qint64 i = 0; i < state.range(0); ++i) {
         StatisticsChildItem curve;
         curve.setTitle(title(i));
@@ -30,11 +32,11 @@ void getStatGraphFromTitle(benchmark::State& state)
 {
     auto& config = lumo::tools::Singleton<UIConfig>::instance();
     QString error;
-    if (config.getStatsGraph().isEmpty() && !config.readUIConfiguration(QStringLiteral(SHIPPED_DOCUMENT), error)) {
+    if (config.getStatsGraph().isEmpty() && !config.readUIConfiguration(QString::fromUtf8(SHIPPED_DOCUMENT), error)) {
         state.SkipWithError(qPrintable(error));
         return;
     }
-    const QString missing = QStringLiteral("no graph of this title");
+    const QString missing = u"no graph of this title"_s;
     for (auto _ : state) {
         benchmark::DoNotOptimize(config.getStatGraphFromTitle(missing));
     }

@@ -14,13 +14,14 @@
 #include <random>
 #include <vector>
 
+using namespace Qt::StringLiterals;
 using cl::datastorage::DataArrayIdentifier;
 
 namespace {
 
 QString name(char16_t axis, int number)
 {
-    return QStringLiteral("%1 quantity number %2 / unit").arg(QChar(axis)).arg(number);
+    return u"%1 quantity number %2 / unit"_s.arg(QChar(axis)).arg(number);
 }
 
 struct Names
@@ -41,7 +42,7 @@ struct Names
 
 AxesCombinationManager filledManager(const Names& names)
 {
-    const QString category = QStringLiteral("Potentiostat measure");
+    const QString category = u"Potentiostat measure"_s;
     AxesCombinationManager manager;
     for (const QString& x : names.x) {
         for (const QString& y : names.y) {

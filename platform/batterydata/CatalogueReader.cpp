@@ -11,6 +11,8 @@
 #include <optional>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace cl::batterydata {
 
 using cl::datastorage::Converter;
@@ -24,31 +26,31 @@ namespace {
 
 constexpr int CatalogueVersion = 1;
 
-constexpr QLatin1String CategoriesKey("Categories");
-constexpr QLatin1String NameKey("Name");
-constexpr QLatin1String ArraysKey("Arrays");
-constexpr QLatin1String ParameterKey("Parameter");
-constexpr QLatin1String UnitKey("Unit");
-constexpr QLatin1String TypeKey("Type");
-constexpr QLatin1String ExportKey("Export");
-constexpr QLatin1String RequiredKey("Required");
-constexpr QLatin1String FormulaKey("Formula");
-constexpr QLatin1String MachineNameKey("Machine name");
-constexpr QLatin1String DescriptionKey("Description");
+constexpr auto CategoriesKey = "Categories"_L1;
+constexpr auto NameKey = "Name"_L1;
+constexpr auto ArraysKey = "Arrays"_L1;
+constexpr auto ParameterKey = "Parameter"_L1;
+constexpr auto UnitKey = "Unit"_L1;
+constexpr auto TypeKey = "Type"_L1;
+constexpr auto ExportKey = "Export"_L1;
+constexpr auto RequiredKey = "Required"_L1;
+constexpr auto FormulaKey = "Formula"_L1;
+constexpr auto MachineNameKey = "Machine name"_L1;
+constexpr auto DescriptionKey = "Description"_L1;
 
-constexpr std::array<std::pair<QLatin1String, DataType>, 5> DataTypes = {{
-    {QLatin1String("Double"), DataType::Double},
-    {QLatin1String("Float"), DataType::Float},
-    {QLatin1String("Integer"), DataType::Integer},
-    {QLatin1String("Boolean"), DataType::Boolean},
-    {QLatin1String("Text"), DataType::Text},
+constexpr std::array<std::pair<QLatin1StringView, DataType>, 5> DataTypes = {{
+    {"Double"_L1, DataType::Double},
+    {"Float"_L1, DataType::Float},
+    {"Integer"_L1, DataType::Integer},
+    {"Boolean"_L1, DataType::Boolean},
+    {"Text"_L1, DataType::Text},
 }};
 
-constexpr std::array<std::pair<QLatin1String, ExportCategory>, 4> ExportCategories = {{
-    {QLatin1String("Never"), ExportCategory::Never},
-    {QLatin1String("On demand"), ExportCategory::OnDemand},
-    {QLatin1String("Standard"), ExportCategory::Standard},
-    {QLatin1String("Complete"), ExportCategory::Complete},
+constexpr std::array<std::pair<QLatin1StringView, ExportCategory>, 4> ExportCategories = {{
+    {"Never"_L1, ExportCategory::Never},
+    {"On demand"_L1, ExportCategory::OnDemand},
+    {"Standard"_L1, ExportCategory::Standard},
+    {"Complete"_L1, ExportCategory::Complete},
 }};
 
 QString quoted(const QString& text)
@@ -64,50 +66,50 @@ public:
         : m_object(value.toObject())
     {
         if (!value.isObject()) {
-            refuse(QStringLiteral("not an object"));
+            refuse(u"not an object"_s);
         }
     }
 
     const QString& getProblem() const { return m_problem; }
 
-    QString readText(QLatin1String key, const QString& fallback = {})
+    QString readText(QLatin1StringView key, const QString& fallback = {})
     {
         const QJsonValue value = m_object.value(key);
         if (!value.isString() && !value.isUndefined()) {
-            refuse(quoted(key) + QStringLiteral(" is not a string"));
+            refuse(quoted(key) + u" is not a string"_s);
         }
         return value.toString(fallback);
     }
 
-    QString readRequiredText(QLatin1String key)
+    QString readRequiredText(QLatin1StringView key)
     {
         QString text = readText(key);
         if (text.isEmpty()) {
-            refuse(quoted(key) + QStringLiteral(" is missing or empty"));
+            refuse(quoted(key) + u" is missing or empty"_s);
         }
         return text;
     }
 
-    bool readFlag(QLatin1String key)
+    bool readFlag(QLatin1StringView key)
     {
         const QJsonValue value = m_object.value(key);
         if (!value.isBool() && !value.isUndefined()) {
-            refuse(quoted(key) + QStringLiteral(" is neither true nor false"));
+            refuse(quoted(key) + u" is neither true nor false"_s);
         }
         return value.toBool();
     }
 
-    QJsonArray readArray(QLatin1String key)
+    QJsonArray readArray(QLatin1StringView key)
     {
         const QJsonValue value = m_object.value(key);
         if (!value.isArray()) {
-            refuse(quoted(key) + QStringLiteral(" is missing or not an array"));
+            refuse(quoted(key) + u" is missing or not an array"_s);
         }
         return value.toArray();
     }
 
     template <typename Names>
-    auto readName(QLatin1String key, const Names& names, QLatin1String fallback)
+    auto readName(QLatin1StringView key, const Names& names, QLatin1StringView fallback)
     {
         const QString text = readText(key, fallback);
         for (const auto& [name, value] : names) {
@@ -136,8 +138,7 @@ public:
         if (!unit) {
             refuseValue(UnitKey, symbol);
         } else if (Converter::getPhysicalParameterFromUnits(*unit) != parameter) {
-            refuse(QStringLiteral("the unit %1 does not measure %2")
-                       .arg(quoted(symbol), quoted(Converter::toString(parameter))));
+            refuse(u"the unit %1 does not measure %2"_s.arg(quoted(symbol), quoted(Converter::toString(parameter))));
         }
         return unit.value_or(UsualUnit());
     }
@@ -150,9 +151,9 @@ private:
         }
     }
 
-    void refuseValue(QLatin1String key, const QString& value)
+    void refuseValue(QLatin1StringView key, const QString& value)
     {
-        refuse(QStringLiteral("%1 is not known for %2").arg(quoted(value), quoted(key)));
+        refuse(u"%1 is not known for %2"_s.arg(quoted(value), quoted(key)));
     }
 
     QJsonObject m_object;
@@ -164,13 +165,13 @@ std::unique_ptr<ClConfigDataArray> readDataArray(Entry& entry, const QString& ca
     const QString name = entry.readRequiredText(NameKey);
     const PhysicalParameter parameter = entry.readParameter();
     const UsualUnit unit = entry.readUnit(parameter);
-    const DataType dataType = entry.readName(TypeKey, DataTypes, QLatin1String("Double"));
+    const DataType dataType = entry.readName(TypeKey, DataTypes, "Double"_L1);
     const QString formula = entry.readText(FormulaKey);
     const DataConfigType configType = formula.isEmpty() ? DataConfigType::Measured : DataConfigType::Computed;
     auto array = std::make_unique<ClConfigDataArray>(name, parameter, dataType, unit, configType,
                                                      entry.readText(DescriptionKey), entry.readText(MachineNameKey),
                                                      category, entry.readFlag(RequiredKey), formula);
-    array->setExportCategory(entry.readName(ExportKey, ExportCategories, QLatin1String("Standard")));
+    array->setExportCategory(entry.readName(ExportKey, ExportCategories, "Standard"_L1));
     return array;
 }
 
@@ -184,11 +185,11 @@ bool readCatalogueFile(const QString& path, QString& error, std::vector<std::uni
     }
     QString problem;
     if (!JsonUtils::checkVersionNumber(root, CatalogueVersion, problem)) {
-        error = quoted(path) + QStringLiteral(": ") + problem;
+        error = quoted(path) + u": "_s + problem;
         return false;
     }
     const auto refuse = [&](const QString& pointer, const Entry& entry) {
-        error = QStringLiteral("%1: %2 (at %3)").arg(quoted(path), entry.getProblem(), pointer);
+        error = u"%1: %2 (at %3)"_s.arg(quoted(path), entry.getProblem(), pointer);
         return false;
     };
 
@@ -198,7 +199,7 @@ bool readCatalogueFile(const QString& path, QString& error, std::vector<std::uni
         return refuse(u'/' + QString(CategoriesKey), document);
     }
     for (qsizetype i = 0; i < categories.size(); ++i) {
-        const QString pointer = QStringLiteral("/%1/%2").arg(CategoriesKey, QString::number(i));
+        const QString pointer = u"/%1/%2"_s.arg(CategoriesKey, QString::number(i));
         Entry category(categories.at(i));
         const QString categoryName = category.readRequiredText(NameKey);
         const QJsonArray entries = category.readArray(ArraysKey);
@@ -209,7 +210,7 @@ bool readCatalogueFile(const QString& path, QString& error, std::vector<std::uni
             Entry entry(entries.at(j));
             arrays.push_back(readDataArray(entry, categoryName));
             if (!entry.getProblem().isEmpty()) {
-                return refuse(QStringLiteral("%1/%2/%3").arg(pointer, ArraysKey, QString::number(j)), entry);
+                return refuse(u"%1/%2/%3"_s.arg(pointer, ArraysKey, QString::number(j)), entry);
             }
         }
     }

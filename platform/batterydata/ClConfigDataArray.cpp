@@ -8,6 +8,8 @@
 #include <optional>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace cl::batterydata {
 
 using cl::datastorage::Converter;
@@ -18,15 +20,15 @@ using cl::datastorage::UsualUnit;
 
 namespace {
 
-constexpr QLatin1String PhysicalParameterKey("physicalParameter");
-constexpr QLatin1String DataTypeKey("dataType");
-constexpr QLatin1String UnitKey("unit");
-constexpr QLatin1String ConfigTypeKey("configType");
-constexpr QLatin1String DescriptionKey("description");
-constexpr QLatin1String MachineNameKey("machineName");
-constexpr QLatin1String RequiredKey("required");
-constexpr QLatin1String FormulaKey("formula");
-constexpr QLatin1String ExportCategoryKey("exportCategory");
+constexpr auto PhysicalParameterKey = "physicalParameter"_L1;
+constexpr auto DataTypeKey = "dataType"_L1;
+constexpr auto UnitKey = "unit"_L1;
+constexpr auto ConfigTypeKey = "configType"_L1;
+constexpr auto DescriptionKey = "description"_L1;
+constexpr auto MachineNameKey = "machineName"_L1;
+constexpr auto RequiredKey = "required"_L1;
+constexpr auto FormulaKey = "formula"_L1;
+constexpr auto ExportCategoryKey = "exportCategory"_L1;
 
 bool isEnumerator(PhysicalParameter value)
 {
@@ -46,13 +48,13 @@ bool isEnumerator(ExportCategory value)
 }
 
 template <typename Enumeration>
-bool readEnumeration(const QJsonObject& object, QLatin1String key, Enumeration& result)
+bool readEnumeration(const QJsonObject& object, QLatin1StringView key, Enumeration& result)
 {
     result = static_cast<Enumeration>(object.value(key).toInt(-1));
     return isEnumerator(result);
 }
 
-bool readText(const QJsonObject& object, QLatin1String key, QString& result)
+bool readText(const QJsonObject& object, QLatin1StringView key, QString& result)
 {
     const QJsonValue value = object.value(key);
     result = value.toString();
@@ -120,7 +122,7 @@ bool ClConfigDataArray::write(QJsonObject& object, int version, cl::archive::Arc
 
 QString ClConfigDataArray::PotentiostatMeasure()
 {
-    return QStringLiteral("Potentiostat");
+    return u"Potentiostat"_s;
 }
 
 } // namespace cl::batterydata

@@ -13,13 +13,15 @@
 #include <utility>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace cl::batterydata {
 
 using cl::datastorage::ConfigDataArray;
 
 namespace {
 
-constexpr QLatin1String DataArraysKey("dataArrays");
+constexpr auto DataArraysKey = "dataArrays"_L1;
 
 // Keys share the texts of the arrays. A lookup compares views, so that it neither copies nor allocates.
 struct Identity

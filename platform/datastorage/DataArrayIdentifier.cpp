@@ -3,11 +3,13 @@
 #include <QJsonObject>
 #include <QJsonValue>
 
+using namespace Qt::StringLiterals;
+
 namespace cl::datastorage {
 
 namespace {
-constexpr QLatin1String NameKey("name");
-constexpr QLatin1String CategoryKey("category");
+constexpr auto NameKey = "name"_L1;
+constexpr auto CategoryKey = "category"_L1;
 } // namespace
 
 bool DataArrayIdentifier::read(const QJsonObject& object, int /*version*/, cl::archive::ArchiveContext& /*context*/)

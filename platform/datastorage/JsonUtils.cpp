@@ -10,11 +10,14 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace cl::datastorage {
 
 namespace {
 
-constexpr QLatin1String VersionKey("Version");
+constexpr auto VersionKey = "Version"_L1;
+constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
 
 // Where a byte of a document stands, for people: both numbers start at 1, a column is a character of the line.
 struct Position
@@ -42,7 +45,6 @@ qsizetype offsetOf(const QJsonParseError& parseError)
 
 Position positionOf(const QByteArray& bytes, qsizetype offset)
 {
-    constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
     const QByteArrayView before = QByteArrayView(bytes).first(std::clamp<qsizetype>(offset, 0, bytes.size()));
     const qsizetype line = before.count('\n') + 1;
     QByteArrayView lineStart = before.sliced(before.lastIndexOf('\n') + 1);
@@ -55,7 +57,7 @@ Position positionOf(const QByteArray& bytes, qsizetype offset)
 
 bool isBlank(const QByteArray& bytes)
 {
-    return bytes.trimmed().isEmpty() || bytes.trimmed() == QByteArrayLiteral("\xEF\xBB\xBF");
+    return bytes.trimmed().isEmpty() || bytes.trimmed() == ByteOrderMark;
 }
 
 } // namespace
@@ -64,13 +66,13 @@ bool JsonUtils::openJsonDocument(const QString& path, QString& error, QJsonObjec
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        error = QFileInfo(path).isDir() ? QStringLiteral("Cannot open \"%1\": it is a directory").arg(path)
-                                        : QStringLiteral("Cannot open \"%1\": %2").arg(path, file.errorString());
+        error = QFileInfo(path).isDir() ? u"Cannot open \"%1\": it is a directory"_s.arg(path)
+                                        : u"Cannot open \"%1\": %2"_s.arg(path, file.errorString());
         return false;
     }
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
-        error = QStringLiteral("Cannot read \"%1\": %2").arg(path, file.errorString());
+        error = u"Cannot read \"%1\": %2"_s.arg(path, file.errorString());
         return false;
     }
 
@@ -81,14 +83,13 @@ bool JsonUtils::openJsonDocument(const QString& path, QString& error, QJsonObjec
         return true;
     }
     if (isBlank(bytes)) {
-        error = QStringLiteral("\"%1\" is empty").arg(path);
+        error = u"\"%1\" is empty"_s.arg(path);
     } else if (parseError.error != QJsonParseError::NoError) {
         const Position position = positionOf(bytes, offsetOf(parseError));
-        error =
-            QStringLiteral("\"%1\" is not valid JSON: line %2, column %3: %4")
-                .arg(path, QString::number(position.line), QString::number(position.column), parseError.errorString());
+        error = u"\"%1\" is not valid JSON: line %2, column %3: %4"_s.arg(
+            path, QString::number(position.line), QString::number(position.column), parseError.errorString());
     } else {
-        error = QStringLiteral("\"%1\" does not hold a JSON object").arg(path);
+        error = u"\"%1\" does not hold a JSON object"_s.arg(path);
     }
     return false;
 }
@@ -100,12 +101,11 @@ bool JsonUtils::checkVersionNumber(const QJsonObject& root, int version, QString
         return true;
     }
     if (value.isUndefined()) {
-        error = QStringLiteral("The format version is missing: expected \"%1\": %2").arg(VersionKey).arg(version);
+        error = u"The format version is missing: expected \"%1\": %2"_s.arg(VersionKey).arg(version);
     } else if (!value.isDouble()) {
-        error = QStringLiteral("The format version is not a number: expected \"%1\": %2").arg(VersionKey).arg(version);
+        error = u"The format version is not a number: expected \"%1\": %2"_s.arg(VersionKey).arg(version);
     } else {
-        error = QStringLiteral("The format version is %1: expected %2")
-                    .arg(value.toDouble(), 0, 'g', QLocale::FloatingPointShortest)
+        error = u"The format version is %1: expected %2"_s.arg(value.toDouble(), 0, 'g', QLocale::FloatingPointShortest)
                     .arg(version);
     }
     return false;

@@ -82,7 +82,7 @@ QByteArray asSarif(const QList<Report>& reports)
     }
     const QJsonObject driver{
         {u"name"_s, u"cluiconfig"_s},
-        {u"version"_s, QStringLiteral(CLCONFIGUI_VERSION)},
+        {u"version"_s, QString::fromUtf8(CLCONFIGUI_VERSION)},
         {u"rules"_s, ruleDescriptors()},
     };
     const QJsonObject run{

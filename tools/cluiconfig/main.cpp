@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The arguments without the program's name, last one first as the parser takes them: as they are or, where they are
@@ -47,8 +49,8 @@ void useCatalogue(const std::string& path)
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("cluiconfig"));
-    QCoreApplication::setOrganizationName(QStringLiteral("Cellaro"));
+    QCoreApplication::setApplicationName(u"cluiconfig"_s);
+    QCoreApplication::setOrganizationName(u"Cellaro"_s);
 
     CLI::App program("For the people who write UIConfig.json: what the application gets from a document.",
                      "cluiconfig");
