@@ -23,7 +23,7 @@ static_assert(
     std::is_same_v<decltype(&DataStreamCombination::toString), const QString (DataStreamCombination::*)() const>);
 static_assert(std::has_virtual_destructor_v<DataStreamCombination>);
 
-const DataStreamCombination sample(u"cx"_s, u"nx"_s, u"cy"_s, u"ny"_s);
+const DataStreamCombination Sample(u"cx"_s, u"nx"_s, u"cy"_s, u"ny"_s);
 
 QStringList texts(const DataStreamCombination& combination)
 {
@@ -49,15 +49,15 @@ TEST(DataStreamCombination, DefaultConstructedHasFourEmptyTexts)
 
 TEST(DataStreamCombination, ConstructorTakesTheCategoryOfEachAxisBeforeItsName)
 {
-    EXPECT_EQ(sample.getXCategory(), u"cx"_s);
-    EXPECT_EQ(sample.getXName(), u"nx"_s);
-    EXPECT_EQ(sample.getYCategory(), u"cy"_s);
-    EXPECT_EQ(sample.getYName(), u"ny"_s);
+    EXPECT_EQ(Sample.getXCategory(), u"cx"_s);
+    EXPECT_EQ(Sample.getXName(), u"nx"_s);
+    EXPECT_EQ(Sample.getYCategory(), u"cy"_s);
+    EXPECT_EQ(Sample.getYName(), u"ny"_s);
 }
 
 TEST(DataStreamCombination, SettersReplaceOneTextEach)
 {
-    DataStreamCombination combination(sample);
+    DataStreamCombination combination(Sample);
     combination.setXName(u"1"_s);
     EXPECT_EQ(texts(combination), QStringList({u"cx"_s, u"1"_s, u"cy"_s, u"ny"_s}));
     combination.setXCategory(u"2"_s);
@@ -70,19 +70,19 @@ TEST(DataStreamCombination, SettersReplaceOneTextEach)
 
 TEST(DataStreamCombination, CopiesAreIndependent)
 {
-    DataStreamCombination original(sample);
+    DataStreamCombination original(Sample);
     const DataStreamCombination constructed(original);
     DataStreamCombination assigned;
     assigned = original;
     original = DataStreamCombination();
-    EXPECT_EQ(texts(constructed), texts(sample));
-    EXPECT_EQ(texts(assigned), texts(sample));
+    EXPECT_EQ(texts(constructed), texts(Sample));
+    EXPECT_EQ(texts(assigned), texts(Sample));
     EXPECT_EQ(texts(original), texts(DataStreamCombination()));
 }
 
 TEST(DataStreamCombination, KeyJoinsCategoryAndNameOfXThenOfYByBlanks)
 {
-    EXPECT_EQ(sample.toString(), u"cx nx cy ny"_s);
+    EXPECT_EQ(Sample.toString(), u"cx nx cy ny"_s);
 }
 
 TEST(DataStreamCombination, KeyOfEmptyTextsIsThreeBlanks)
@@ -107,7 +107,7 @@ TEST(DataStreamCombination, KeyIsTheSameForAnotherSplitOfTheSameWords)
 
 TEST(DataStreamCombination, WritesFourStringsAndNothingElse)
 {
-    EXPECT_EQ(written(sample), sampleObject());
+    EXPECT_EQ(written(Sample), sampleObject());
     EXPECT_EQ(written(DataStreamCombination()), jsonObject(R"({
         "streamIdentifier_XCategory": "",
         "streamIdentifier_XName": "",
@@ -120,7 +120,7 @@ TEST(DataStreamCombination, WriteOverwritesItsKeysAndLeavesOthersInPlace)
 {
     QJsonObject expected = sampleObject();
     expected.insert(u"other"_s, 1);
-    EXPECT_EQ(written(sample, jsonObject(R"({"other": 1, "streamIdentifier_XName": [1, 2]})")), expected);
+    EXPECT_EQ(written(Sample, jsonObject(R"({"other": 1, "streamIdentifier_XName": [1, 2]})")), expected);
 }
 
 TEST(DataStreamCombination, ReadReplacesAllFourTextsWhateverTheVersion)
@@ -128,13 +128,13 @@ TEST(DataStreamCombination, ReadReplacesAllFourTextsWhateverTheVersion)
     for (const int version : {-1, 0, 29, 1000}) {
         DataStreamCombination combination(u"1"_s, u"2"_s, u"3"_s, u"4"_s);
         EXPECT_TRUE(readInto(combination, sampleObject(), version));
-        EXPECT_EQ(texts(combination), texts(sample));
+        EXPECT_EQ(texts(combination), texts(Sample));
     }
 }
 
 TEST(DataStreamCombination, ReadOfAnEmptyObjectGivesEmptyTextsAndSucceeds)
 {
-    DataStreamCombination combination(sample);
+    DataStreamCombination combination(Sample);
     EXPECT_TRUE(readInto(combination, {}));
     EXPECT_EQ(texts(combination), texts(DataStreamCombination()));
 }
@@ -145,7 +145,7 @@ TEST(DataStreamCombination, ReadTakesAValueThatIsNotAStringAsEmpty)
         for (const QJsonValue& value : valuesOfOtherTypes(QJsonValue::String)) {
             QJsonObject object = sampleObject();
             object.insert(key, value);
-            DataStreamCombination combination(sample);
+            DataStreamCombination combination(Sample);
             EXPECT_TRUE(readInto(combination, object));
             object.insert(key, QString());
             EXPECT_EQ(written(combination), object);

@@ -20,7 +20,7 @@ public:
     ~LoudCombination() override { printLine(u"record deleted"_s); }
 };
 
-const ProcessTask exitWithRecord("exit-with-record", [] {
+const ProcessTask ExitWithRecord("exit-with-record", [] {
     Singleton<UIConfig>::instance().getMSVUnitsCombinationManager().append(new LoudCombination);
     printLine(u"exit"_s);
 });
@@ -153,7 +153,7 @@ TEST_F(LifeCycle, DeleteAllLeavesTheCatalogueAlone)
 
 TEST_F(LifeCycle, DestructionDeletesTheRecords)
 {
-    EXPECT_EQ(exitWithRecord.run().lines, QStringList({u"exit"_s, u"record deleted"_s}));
+    EXPECT_EQ(ExitWithRecord.run().lines, QStringList({u"exit"_s, u"record deleted"_s}));
 }
 
 TEST_P(LifeCycleWithBadSection, KeepsTheSectionsBeforeItAndReadsNoneAfterIt)

@@ -82,7 +82,7 @@ private:
     }
 };
 
-const ProcessTask printStoredRendering("print-stored-rendering", [] {
+const ProcessTask PrintStoredRendering("print-stored-rendering", [] {
     QSettings::setDefaultFormat(QSettings::NativeFormat);
     const UIConfig::RenderingConfiguration rendering = Singleton<UIConfig>::instance().getRenderingConfiguration();
     printLine(u"%1 %2 %3 %4 %5 %6"_s.arg(rendering.maxNumberPointsInput)
@@ -133,5 +133,5 @@ TEST_F(Registry, FlagsAreTexts)
 TEST_F(Registry, RenderingComesBackInANewProcess)
 {
     config().setRenderingConfiguration({4294967295U, 0, 12345, false, -2147483647, 3});
-    EXPECT_EQ(printStoredRendering.run().lines, QStringList(u"4294967295 0 12345 0 -2147483647 3"_s));
+    EXPECT_EQ(PrintStoredRendering.run().lines, QStringList(u"4294967295 0 12345 0 -2147483647 3"_s));
 }

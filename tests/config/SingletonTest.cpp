@@ -57,7 +57,7 @@ public:
     ~LastWords() { printLine(u"destroyed"_s); }
 };
 
-const ProcessTask useLastWords("use-last-words", [] {
+const ProcessTask UseLastWords("use-last-words", [] {
     Singleton<LastWords>::instance();
     Singleton<LastWords>::instance();
     printLine(u"used"_s);
@@ -127,5 +127,5 @@ TEST(Singleton, ConstructorThatThrowsIsTriedAgainByTheNextCall)
 
 TEST(Singleton, ObjectIsDestroyedOnceAtProcessExit)
 {
-    EXPECT_EQ(useLastWords.run().lines, QStringList({u"constructed"_s, u"used"_s, u"destroyed"_s}));
+    EXPECT_EQ(UseLastWords.run().lines, QStringList({u"constructed"_s, u"used"_s, u"destroyed"_s}));
 }

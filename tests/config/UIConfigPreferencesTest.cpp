@@ -33,11 +33,11 @@ void printRendering(const UIConfig::RenderingConfiguration& rendering)
                   .arg(rendering.lineWidth));
 }
 
-const ProcessTask printRenderingConfiguration("print-rendering-configuration", [] {
+const ProcessTask PrintRenderingConfiguration("print-rendering-configuration", [] {
     printRendering(Singleton<UIConfig>::instance().getRenderingConfiguration());
 });
 
-const ProcessTask printFlags("print-flags", [] {
+const ProcessTask PrintFlags("print-flags", [] {
     const UIConfig& config = Singleton<UIConfig>::instance();
     printLine(u"%1 %2 %3 %4"_s.arg(config.isRefreshDataConfirmDialogDisplay())
                   .arg(config.isRemoveDataConfirmDialogDisplay())
@@ -45,7 +45,7 @@ const ProcessTask printFlags("print-flags", [] {
                   .arg(config.showStickersFrequency()));
 });
 
-const ProcessTask printDialogState("print-dialog-state", [] {
+const ProcessTask PrintDialogState("print-dialog-state", [] {
     UIConfig& config = Singleton<UIConfig>::instance();
     printLine(config.getLastDirectoryExport());
     printLine(u'"' + config.getLastImportedFileFilter() + u'"');
@@ -186,13 +186,13 @@ TEST_F(Preferences, RenderingIsNeitherCheckedNorClamped)
     const UIConfig::RenderingConfiguration odd{0, 4294967295U, 7, true, -2147483647, 0};
     config().setRenderingConfiguration(odd);
     EXPECT_TRUE(config().getRenderingConfiguration() == odd);
-    EXPECT_EQ(printRenderingConfiguration.run().lines, QStringList(u"0 4294967295 7 1 -2147483647 0"_s));
+    EXPECT_EQ(PrintRenderingConfiguration.run().lines, QStringList(u"0 4294967295 7 1 -2147483647 0"_s));
 }
 
 TEST_F(Preferences, RenderingComesBackInANewProcess)
 {
     config().setRenderingConfiguration({50000, 5000, 12345, false, 250, 3});
-    EXPECT_EQ(printRenderingConfiguration.run().lines, QStringList(u"50000 5000 12345 0 250 3"_s));
+    EXPECT_EQ(PrintRenderingConfiguration.run().lines, QStringList(u"50000 5000 12345 0 250 3"_s));
 }
 
 TEST_F(Preferences, ChangeOfTheStoreShowsInTheFlagsAtOnceButNotInTheRendering)
@@ -252,7 +252,7 @@ TEST_F(Preferences, FlagsComeBackInANewProcess)
 {
     config().setRemoveDataConfirmDialogDisplay(false);
     config().setShowStickersFrequency(true);
-    EXPECT_EQ(printFlags.run().lines, QStringList(u"1 0 1 1"_s));
+    EXPECT_EQ(PrintFlags.run().lines, QStringList(u"1 0 1 1"_s));
 }
 
 TEST_F(Preferences, DirectoriesAndFileFilterLastForTheRunOnly)
@@ -270,7 +270,7 @@ TEST_F(Preferences, DirectoriesAndFileFilterLastForTheRunOnly)
     EXPECT_EQ(config().getLastImportedFileFilter(), u"*.mpr"_s);
 
     EXPECT_EQ(QSettings().allKeys(), QStringList());
-    EXPECT_EQ(printDialogState.run().lines, QStringList({documents, u"\"\""_s}));
+    EXPECT_EQ(PrintDialogState.run().lines, QStringList({documents, u"\"\""_s}));
 }
 
 TEST_F(Preferences, KeysAreSharedWithTheApplication)

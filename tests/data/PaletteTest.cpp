@@ -19,18 +19,18 @@ using Triple = std::array<double, 3>;
 using Matrix = std::array<Triple, 3>;
 
 // From linear RGB to linear RGB, at full severity (Machado, Oliveira and Fernandes 2009).
-constexpr Matrix normal = {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}};
-constexpr Matrix protanopia = {{
+constexpr Matrix Normal = {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}};
+constexpr Matrix Protanopia = {{
     {0.152286, 1.052583, -0.204868},
     {0.114503, 0.786281, 0.099216},
     {-0.003882, -0.048116, 1.051998},
 }};
-constexpr Matrix deuteranopia = {{
+constexpr Matrix Deuteranopia = {{
     {0.367322, 0.860646, -0.227968},
     {0.280085, 0.672501, 0.047413},
     {-0.011820, 0.042940, 0.968881},
 }};
-constexpr Matrix tritanopia = {{
+constexpr Matrix Tritanopia = {{
     {1.255528, -0.076749, -0.178779},
     {-0.078411, 0.930809, 0.147602},
     {0.004733, 0.691367, 0.303900},
@@ -55,13 +55,13 @@ double linear(double component)
 
 Triple toLab(const Triple& linearRgb)
 {
-    constexpr Matrix toXyz = {{
+    constexpr Matrix ToXyz = {{
         {0.4124564, 0.3575761, 0.1804375},
         {0.2126729, 0.7151522, 0.0721750},
         {0.0193339, 0.1191920, 0.9503041},
     }};
     const auto f = [](double t) { return t > 216.0 / 24389 ? std::cbrt(t) : (24389.0 / 27 * t + 16) / 116; };
-    const Triple xyz = multiply(toXyz, linearRgb);
+    const Triple xyz = multiply(ToXyz, linearRgb);
     const double x = f(xyz[0] / 0.95047);
     const double y = f(xyz[1]);
     const double z = f(xyz[2] / 1.08883);
@@ -80,9 +80,9 @@ Triple seen(const Matrix& vision, const Triple& rgb)
 // CIEDE2000
 double difference(const Triple& a, const Triple& b)
 {
-    constexpr double degree = std::numbers::pi / 180;
-    const auto sin = [](double angle) { return std::sin(angle * degree); };
-    const auto cos = [](double angle) { return std::cos(angle * degree); };
+    constexpr double Degree = std::numbers::pi / 180;
+    const auto sin = [](double angle) { return std::sin(angle * Degree); };
+    const auto cos = [](double angle) { return std::cos(angle * Degree); };
     const auto chromaWeight = [](double chroma) {
         const double seventh = std::pow(chroma, 7);
         return std::sqrt(seventh / (seventh + std::pow(25, 7)));
@@ -90,7 +90,7 @@ double difference(const Triple& a, const Triple& b)
     const double g = 0.5 * (1 - chromaWeight((std::hypot(a[1], a[2]) + std::hypot(b[1], b[2])) / 2));
     const double c1 = std::hypot(a[1] * (1 + g), a[2]);
     const double c2 = std::hypot(b[1] * (1 + g), b[2]);
-    const auto hue = [](double y, double x) { return std::fmod(std::atan2(y, x) / degree + 360, 360); };
+    const auto hue = [](double y, double x) { return std::fmod(std::atan2(y, x) / Degree + 360, 360); };
     const double h1 = hue(a[2], a[1] * (1 + g));
     const double h2 = hue(b[2], b[1] * (1 + g));
 
@@ -163,16 +163,16 @@ TEST(Palette, HasTwentyColours)
 TEST(Palette, NoTwoColoursLookAlikeWithOrWithoutColourBlindness)
 {
     const std::vector<Colour> palette = readPalette();
-    EXPECT_GT(leastDifference(palette, normal), 9);
-    EXPECT_GT(leastDifference(palette, protanopia), 6);
-    EXPECT_GT(leastDifference(palette, deuteranopia), 6);
-    EXPECT_GT(leastDifference(palette, tritanopia), 6);
+    EXPECT_GT(leastDifference(palette, Normal), 9);
+    EXPECT_GT(leastDifference(palette, Protanopia), 6);
+    EXPECT_GT(leastDifference(palette, Deuteranopia), 6);
+    EXPECT_GT(leastDifference(palette, Tritanopia), 6);
 }
 
 TEST(Palette, NoColourIsLostOnAWhiteBackground)
 {
     for (const Colour& colour : readPalette()) {
-        for (const Matrix& vision : {normal, protanopia, deuteranopia, tritanopia}) {
+        for (const Matrix& vision : {Normal, Protanopia, Deuteranopia, Tritanopia}) {
             EXPECT_GT(difference(seen(vision, colour.rgb), seen(vision, {255, 255, 255})), 15)
                 << qPrintable(colour.name);
         }

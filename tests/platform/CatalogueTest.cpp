@@ -174,10 +174,10 @@ TEST(Catalogue, ReadsNoArraysFromAnObjectWithoutThem)
 
 TEST(RawDataCollection, IsReadByManyThreadsAtOnce)
 {
-    constexpr int threadCount = 4;
-    std::vector<std::pair<const void*, qsizetype>> seen(threadCount);
+    constexpr int ThreadCount = 4;
+    std::vector<std::pair<const void*, qsizetype>> seen(ThreadCount);
     std::vector<std::thread> threads;
-    threads.reserve(threadCount);
+    threads.reserve(ThreadCount);
     for (auto& [array, count] : seen) {
         threads.emplace_back([&array = array, &count = count] {
             const ClConfigDataArrayManager& catalogue = RawDataCollection::instance().getDataConfiguration();
@@ -192,5 +192,5 @@ TEST(RawDataCollection, IsReadByManyThreadsAtOnce)
     }
     EXPECT_NE(seen.front().first, nullptr);
     EXPECT_GE(seen.front().second, RawDataCollection::instance().getDataConfiguration().getAll().size());
-    EXPECT_EQ(seen, decltype(seen)(threadCount, seen.front()));
+    EXPECT_EQ(seen, decltype(seen)(ThreadCount, seen.front()));
 }

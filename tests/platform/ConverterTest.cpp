@@ -17,11 +17,11 @@ using cl::datastorage::UsualUnitType;
 
 namespace {
 
-constexpr UsualUnitOperator none = UsualUnitOperator::None;
-constexpr UsualUnitOperator times = UsualUnitOperator::Multiply;
-constexpr UsualUnitOperator by = UsualUnitOperator::Divide;
+constexpr UsualUnitOperator None = UsualUnitOperator::None;
+constexpr UsualUnitOperator Times = UsualUnitOperator::Multiply;
+constexpr UsualUnitOperator By = UsualUnitOperator::Divide;
 
-constexpr std::array<int, 60> shownTypes = {
+constexpr std::array<int, 60> ShownTypes = {
     2,   3,   4,   5,   10,  11,  12,  13,  14,  15,  20,  21,  22,  23,  24,  40,  41,  42,   50,   60,
     61,  62,  64,  70,  71,  72,  80,  82,  83,  90,  100, 101, 102, 103, 111, 112, 113, 114,  130,  131,
     132, 135, 140, 141, 142, 143, 144, 145, 146, 147, 150, 151, 160, 161, 170, 180, 190, 1043, 1044, 1045};
@@ -35,43 +35,43 @@ UsualUnit unit(const QString& symbol)
 
 TEST(UsualUnit, HasNoComponentByDefault)
 {
-    constexpr UsualUnit unit;
-    EXPECT_EQ(unit.getUnit1(), UsualUnitType::None);
-    EXPECT_FALSE(unit.hasUnit2());
-    EXPECT_FALSE(unit.hasUnit3());
-    EXPECT_FALSE(unit.hasUnit4());
-    EXPECT_EQ(unit.getOperator(), none);
-    EXPECT_EQ(unit.getOperator2(), none);
-    EXPECT_EQ(unit.getOperator3(), none);
-    EXPECT_EQ(unit, UsualUnit(UsualUnitType::None));
+    constexpr UsualUnit Unit;
+    EXPECT_EQ(Unit.getUnit1(), UsualUnitType::None);
+    EXPECT_FALSE(Unit.hasUnit2());
+    EXPECT_FALSE(Unit.hasUnit3());
+    EXPECT_FALSE(Unit.hasUnit4());
+    EXPECT_EQ(Unit.getOperator(), None);
+    EXPECT_EQ(Unit.getOperator2(), None);
+    EXPECT_EQ(Unit.getOperator3(), None);
+    EXPECT_EQ(Unit, UsualUnit(UsualUnitType::None));
 }
 
 TEST(UsualUnit, KeepsFourComponentsAndThreeOperatorsInOrder)
 {
-    constexpr UsualUnit unit(UsualUnitType::Ampere, times, UsualUnitType::Second, by, UsualUnitType::Volt, times,
+    constexpr UsualUnit Unit(UsualUnitType::Ampere, Times, UsualUnitType::Second, By, UsualUnitType::Volt, Times,
                              UsualUnitType::Gram);
-    EXPECT_EQ(unit.getUnit1(), UsualUnitType::Ampere);
-    EXPECT_EQ(unit.getUnit2(), UsualUnitType::Second);
-    EXPECT_EQ(unit.getUnit3(), UsualUnitType::Volt);
-    EXPECT_EQ(unit.getUnit4(), UsualUnitType::Gram);
-    EXPECT_EQ(unit.getOperator(), times);
-    EXPECT_EQ(unit.getOperator2(), by);
-    EXPECT_EQ(unit.getOperator3(), times);
-    EXPECT_TRUE(unit.hasUnit2());
-    EXPECT_TRUE(unit.hasUnit3());
-    EXPECT_TRUE(unit.hasUnit4());
+    EXPECT_EQ(Unit.getUnit1(), UsualUnitType::Ampere);
+    EXPECT_EQ(Unit.getUnit2(), UsualUnitType::Second);
+    EXPECT_EQ(Unit.getUnit3(), UsualUnitType::Volt);
+    EXPECT_EQ(Unit.getUnit4(), UsualUnitType::Gram);
+    EXPECT_EQ(Unit.getOperator(), Times);
+    EXPECT_EQ(Unit.getOperator2(), By);
+    EXPECT_EQ(Unit.getOperator3(), Times);
+    EXPECT_TRUE(Unit.hasUnit2());
+    EXPECT_TRUE(Unit.hasUnit3());
+    EXPECT_TRUE(Unit.hasUnit4());
 }
 
 TEST(UsualUnit, BuiltFromOneTypeAndNothingElseEqualsTheUnitOfThatType)
 {
-    const UsualUnit built(UsualUnitType::Volt, none, UsualUnitType::None, none, UsualUnitType::None, none,
+    const UsualUnit built(UsualUnitType::Volt, None, UsualUnitType::None, None, UsualUnitType::None, None,
                           UsualUnitType::None);
     EXPECT_EQ(built, UsualUnit(UsualUnitType::Volt));
 }
 
 TEST(UsualUnit, DiffersWhenAnyPartDiffers)
 {
-    const UsualUnit unit(UsualUnitType::Volt, by, UsualUnitType::Second, by, UsualUnitType::Gram, by,
+    const UsualUnit unit(UsualUnitType::Volt, By, UsualUnitType::Second, By, UsualUnitType::Gram, By,
                          UsualUnitType::Metre);
     const auto changed = [](UsualUnitType a, UsualUnitOperator x, UsualUnitType b, UsualUnitOperator y, UsualUnitType c,
                             UsualUnitOperator z, UsualUnitType d) { return UsualUnit(a, x, b, y, c, z, d); };
@@ -79,14 +79,14 @@ TEST(UsualUnit, DiffersWhenAnyPartDiffers)
     const UsualUnitType second = UsualUnitType::Second;
     const UsualUnitType gram = UsualUnitType::Gram;
     const UsualUnitType metre = UsualUnitType::Metre;
-    EXPECT_EQ(unit, changed(volt, by, second, by, gram, by, metre));
-    EXPECT_NE(unit, changed(gram, by, second, by, gram, by, metre));
-    EXPECT_NE(unit, changed(volt, times, second, by, gram, by, metre));
-    EXPECT_NE(unit, changed(volt, by, volt, by, gram, by, metre));
-    EXPECT_NE(unit, changed(volt, by, second, times, gram, by, metre));
-    EXPECT_NE(unit, changed(volt, by, second, by, volt, by, metre));
-    EXPECT_NE(unit, changed(volt, by, second, by, gram, times, metre));
-    EXPECT_NE(unit, changed(volt, by, second, by, gram, by, UsualUnitType::None));
+    EXPECT_EQ(unit, changed(volt, By, second, By, gram, By, metre));
+    EXPECT_NE(unit, changed(gram, By, second, By, gram, By, metre));
+    EXPECT_NE(unit, changed(volt, Times, second, By, gram, By, metre));
+    EXPECT_NE(unit, changed(volt, By, volt, By, gram, By, metre));
+    EXPECT_NE(unit, changed(volt, By, second, Times, gram, By, metre));
+    EXPECT_NE(unit, changed(volt, By, second, By, volt, By, metre));
+    EXPECT_NE(unit, changed(volt, By, second, By, gram, Times, metre));
+    EXPECT_NE(unit, changed(volt, By, second, By, gram, By, UsualUnitType::None));
 }
 
 TEST(Converter, TimeIsParameterFourWithSecondTwentyAndHourTwentyThree)
@@ -102,7 +102,7 @@ TEST(Converter, TimeIsParameterFourWithSecondTwentyAndHourTwentyThree)
 
 TEST(Converter, EveryTypeThatChoosersShowHasASymbolAndAQuantity)
 {
-    for (const int type : shownTypes) {
+    for (const int type : ShownTypes) {
         EXPECT_FALSE(Converter::toString(static_cast<UsualUnitType>(type)).isEmpty()) << type;
         EXPECT_NE(Converter::getPhysicalParameterFromUnits(UsualUnit(static_cast<UsualUnitType>(type))),
                   PhysicalParameter::None)
@@ -149,10 +149,10 @@ TEST(Converter, NamesOfQuantitiesAreUniqueAndLeadBackToThem)
 TEST(Converter, NamesOfOperatorsLeadBackToThem)
 {
     EXPECT_EQ(Converter::getOperatorNames(), (QList<QString>{u"None"_qs, u"Multiply"_qs, u"Divide"_qs}));
-    EXPECT_EQ(Converter::getOperatorFromString(u"Multiply"_qs), times);
-    EXPECT_EQ(Converter::getOperatorFromString(u"Divide"_qs), by);
-    EXPECT_EQ(Converter::toString(times), u"Multiply"_qs);
-    EXPECT_EQ(Converter::toString(by), u"Divide"_qs);
+    EXPECT_EQ(Converter::getOperatorFromString(u"Multiply"_qs), Times);
+    EXPECT_EQ(Converter::getOperatorFromString(u"Divide"_qs), By);
+    EXPECT_EQ(Converter::toString(Times), u"Multiply"_qs);
+    EXPECT_EQ(Converter::toString(By), u"Divide"_qs);
 }
 
 TEST(Converter, UnknownNamesAndNumbersGiveNone)
@@ -160,8 +160,8 @@ TEST(Converter, UnknownNamesAndNumbersGiveNone)
     EXPECT_EQ(Converter::getPhysicalParameterFromString(u"voltage"_qs), PhysicalParameter::None);
     EXPECT_EQ(Converter::getPhysicalParameterFromString(u"Voltage "_qs), PhysicalParameter::None);
     EXPECT_EQ(Converter::getPhysicalParameterFromString(QString()), PhysicalParameter::None);
-    EXPECT_EQ(Converter::getOperatorFromString(u"divide"_qs), none);
-    EXPECT_EQ(Converter::getOperatorFromString(QString()), none);
+    EXPECT_EQ(Converter::getOperatorFromString(u"divide"_qs), None);
+    EXPECT_EQ(Converter::getOperatorFromString(QString()), None);
     EXPECT_EQ(Converter::toString(static_cast<PhysicalParameter>(25)), QString());
     EXPECT_EQ(Converter::toString(static_cast<UsualUnitOperator>(3)), QString());
     EXPECT_EQ(Converter::toString(UsualUnitType::None), QString());
@@ -220,9 +220,9 @@ TEST(Converter, WritesComponentsWithTheirOperators)
 {
     EXPECT_EQ(Converter::toString(UsualUnit()), QString());
     EXPECT_EQ(Converter::toString(UsualUnit(UsualUnitType::Volt)), u"V"_qs);
-    EXPECT_EQ(Converter::toString(UsualUnit(UsualUnitType::Ohm, times, UsualUnitType::SquareCentimetre)), u"Ω·cm²"_qs);
+    EXPECT_EQ(Converter::toString(UsualUnit(UsualUnitType::Ohm, Times, UsualUnitType::SquareCentimetre)), u"Ω·cm²"_qs);
     EXPECT_EQ(
-        Converter::toString(UsualUnit(UsualUnitType::MilliwattHour, by, UsualUnitType::Gram, by, UsualUnitType::Hour)),
+        Converter::toString(UsualUnit(UsualUnitType::MilliwattHour, By, UsualUnitType::Gram, By, UsualUnitType::Hour)),
         u"mWh/g/h"_qs);
 }
 
@@ -279,10 +279,10 @@ TEST(Converter, HandsOutTheSameListToEveryCall)
 
 TEST(Converter, MayBeCalledFromSeveralThreads)
 {
-    constexpr int threadCount = 4;
-    std::vector<qsizetype> counts(threadCount);
+    constexpr int ThreadCount = 4;
+    std::vector<qsizetype> counts(ThreadCount);
     std::vector<std::thread> threads;
-    threads.reserve(threadCount);
+    threads.reserve(ThreadCount);
     for (qsizetype& count : counts) {
         threads.emplace_back([&count] {
             for (const QString& name : Converter::getPhysicalParameterNames()) {
@@ -296,5 +296,5 @@ TEST(Converter, MayBeCalledFromSeveralThreads)
     for (std::thread& thread : threads) {
         thread.join();
     }
-    EXPECT_EQ(counts, std::vector<qsizetype>(threadCount, 353));
+    EXPECT_EQ(counts, std::vector<qsizetype>(ThreadCount, 353));
 }

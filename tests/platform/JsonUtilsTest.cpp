@@ -112,12 +112,12 @@ TEST(OpenJsonDocument, RefusesAFileWithoutPermission)
 #ifdef Q_OS_UNIX
     const DocumentFile file("{}");
     const uid_t user = geteuid();
-    constexpr uid_t nobody = 65534;
+    constexpr uid_t Nobody = 65534;
     ASSERT_TRUE(QFile::setPermissions(file.directory(),
                                       QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner
                                           | QFileDevice::ExeOther));
     ASSERT_TRUE(QFile::setPermissions(file.path(), QFileDevice::WriteOwner));
-    if (user == 0 && seteuid(nobody) != 0) {
+    if (user == 0 && seteuid(Nobody) != 0) {
         GTEST_SKIP() << "the superuser may read every file, and there is no other user to become";
     }
     const Opened opened = open(file.path());

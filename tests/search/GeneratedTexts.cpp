@@ -63,7 +63,7 @@ std::string GeneratedTexts::text(std::size_t length)
 
 std::size_t GeneratedTexts::length()
 {
-    static constexpr std::array<std::size_t, 8> limits = {16, 64, 80, 128, 200, 256, 512, 600};
+    static constexpr std::array<std::size_t, 8> Limits = {16, 64, 80, 128, 200, 256, 512, 600};
     const std::size_t kind = below(16);
     if (kind < 7) {
         return below(20);
@@ -72,7 +72,7 @@ std::size_t GeneratedTexts::length()
         return below(90);
     }
     if (kind < 15) {
-        return limits[below(limits.size())] - 2 + below(5);
+        return Limits[below(Limits.size())] - 2 + below(5);
     }
     return below(700);
 }

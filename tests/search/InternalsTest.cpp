@@ -78,44 +78,44 @@ TYPED_TEST_SUITE(PositionSetTest, BothSizes);
 
 TYPED_TEST(PositionSetTest, BehavesLikeASetOfNumbers)
 {
-    constexpr int words = TypeParam::value;
-    constexpr int capacity = PositionSet<words>::Capacity;
+    constexpr int Words = TypeParam::value;
+    constexpr int Capacity = PositionSet<Words>::Capacity;
     GeneratedTexts random(1);
     for (int round = 0; round < 3'000; ++round) {
-        const SetPair<words> set(random, random.below(round % 2 == 0 ? 20 : 4));
-        const SetPair<words> other(random, random.below(20));
-        const auto isIn = [](const SetPair<words>& pair, int position) { return pair.theirs.count(position) != 0; };
+        const SetPair<Words> set(random, random.below(round % 2 == 0 ? 20 : 4));
+        const SetPair<Words> other(random, random.below(20));
+        const auto isIn = [](const SetPair<Words>& pair, int position) { return pair.theirs.count(position) != 0; };
         ASSERT_EQ(positionsIn(set.ours), set.theirs);
         EXPECT_EQ(set.ours.empty(), set.theirs.empty());
         EXPECT_EQ(set.ours == other.ours, set.theirs == other.theirs);
         EXPECT_EQ(set.ours.count(), static_cast<int>(set.theirs.size()));
-        EXPECT_EQ(PositionSet<words>::weightedCount(set.ours, other.ours),
+        EXPECT_EQ(PositionSet<Words>::weightedCount(set.ours, other.ours),
                   static_cast<int>(set.theirs.size() + 2 * other.theirs.size()));
         EXPECT_EQ(positionsIn(set.ours & other.ours),
-                  allThat(capacity, [&](int i) { return isIn(set, i) && isIn(other, i); }));
+                  allThat(Capacity, [&](int i) { return isIn(set, i) && isIn(other, i); }));
         EXPECT_EQ(positionsIn(set.ours | other.ours),
-                  allThat(capacity, [&](int i) { return isIn(set, i) || isIn(other, i); }));
+                  allThat(Capacity, [&](int i) { return isIn(set, i) || isIn(other, i); }));
         EXPECT_EQ(positionsIn(set.ours - other.ours),
-                  allThat(capacity, [&](int i) { return isIn(set, i) && !isIn(other, i); }));
-        EXPECT_EQ(positionsIn(set.ours.next()), allThat(capacity, [&](int i) { return isIn(set, i - 1); }));
-        EXPECT_EQ(positionsIn(set.ours.previous()), allThat(capacity, [&](int i) { return isIn(set, i + 1); }));
+                  allThat(Capacity, [&](int i) { return isIn(set, i) && !isIn(other, i); }));
+        EXPECT_EQ(positionsIn(set.ours.next()), allThat(Capacity, [&](int i) { return isIn(set, i - 1); }));
+        EXPECT_EQ(positionsIn(set.ours.previous()), allThat(Capacity, [&](int i) { return isIn(set, i + 1); }));
 
-        const int lowest = set.theirs.empty() ? capacity : *set.theirs.begin();
+        const int lowest = set.theirs.empty() ? Capacity : *set.theirs.begin();
         const int highest = set.theirs.empty() ? 0 : *set.theirs.rbegin();
-        EXPECT_EQ(positionsIn(set.ours.lowest()), allThat(capacity, [&](int i) { return i == lowest; }));
-        EXPECT_EQ(positionsIn(set.ours.allAboveLowest()), allThat(capacity, [&](int i) { return i > lowest; }));
-        EXPECT_EQ(positionsIn(set.ours.allBelowLowest()), allThat(capacity, [&](int i) { return i < lowest; }));
-        EXPECT_EQ(positionsIn(set.ours.allBelowHighest()), allThat(capacity, [&](int i) { return i < highest; }));
+        EXPECT_EQ(positionsIn(set.ours.lowest()), allThat(Capacity, [&](int i) { return i == lowest; }));
+        EXPECT_EQ(positionsIn(set.ours.allAboveLowest()), allThat(Capacity, [&](int i) { return i > lowest; }));
+        EXPECT_EQ(positionsIn(set.ours.allBelowLowest()), allThat(Capacity, [&](int i) { return i < lowest; }));
+        EXPECT_EQ(positionsIn(set.ours.allBelowHighest()), allThat(Capacity, [&](int i) { return i < highest; }));
         if (!set.theirs.empty()) {
             EXPECT_EQ(positionsIn(set.ours.highest()), std::set<int>{highest});
         }
-        for (int limit = 0; limit <= PositionSet<words>::FirstLimit; ++limit) {
+        for (int limit = 0; limit <= PositionSet<Words>::FirstLimit; ++limit) {
             const auto end = std::next(set.theirs.begin(), std::min<std::ptrdiff_t>(limit, std::ssize(set.theirs)));
             EXPECT_EQ(positionsIn(set.ours.first(limit)), std::set<int>(set.theirs.begin(), end));
         }
     }
-    EXPECT_EQ(positionsIn(PositionSet<words>::none()), std::set<int>());
-    EXPECT_EQ(PositionSet<words>::all().count(), capacity);
+    EXPECT_EQ(positionsIn(PositionSet<Words>::none()), std::set<int>());
+    EXPECT_EQ(PositionSet<Words>::all().count(), Capacity);
     EXPECT_EQ(PositionSet<1>::weightedCount(PositionSet<1>::all(), PositionSet<1>::all()), 3 * 64);
 }
 

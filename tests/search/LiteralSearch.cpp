@@ -37,9 +37,9 @@ private:
     std::uint32_t m_value = 0;
 };
 
-constexpr std::size_t matchCapacity = 256;
-constexpr int recursionLimit = 10;
-using Matches = std::array<std::uint8_t, matchCapacity>;
+constexpr std::size_t MatchCapacity = 256;
+constexpr int RecursionLimit = 10;
+using Matches = std::array<std::uint8_t, MatchCapacity>;
 
 int textPathScore(const char* textStart, const Matches& matches, std::size_t count)
 {
@@ -81,7 +81,7 @@ bool textMatch(const char* pattern, const char* text, const char* textStart, con
                std::size_t capacity, std::size_t nextMatch, int& recursions, int& outScore)
 {
     ++recursions;
-    if (recursions >= recursionLimit) {
+    if (recursions >= RecursionLimit) {
         return false;
     }
     if (*pattern == '\0' || *text == '\0') {
@@ -148,7 +148,7 @@ std::optional<int> textScore(const std::string& query, const std::string& candid
     int recursions = 0;
     int score = 0;
     const char* text = candidate.c_str();
-    if (!textMatch(query.c_str(), text, text, nullptr, matches, matchCapacity, 0, recursions, score)) {
+    if (!textMatch(query.c_str(), text, text, nullptr, matches, MatchCapacity, 0, recursions, score)) {
         return std::nullopt;
     }
     return score;

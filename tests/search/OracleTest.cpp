@@ -23,23 +23,23 @@
 
 namespace {
 
-constexpr std::size_t casesInEveryRun = 20'000;
-constexpr std::size_t longestTechniqueQuery = 12; // the literal version takes 2 to the power of it
-constexpr std::uint64_t seed = 20240607;
+constexpr std::size_t CasesInEveryRun = 20'000;
+constexpr std::size_t LongestTechniqueQuery = 12; // the literal version takes 2 to the power of it
+constexpr std::uint64_t Seed = 20240607;
 
 /// Fails the test that asks if CLCONFIGUI_SEARCH_CASES is not a number of cases.
 std::size_t casesToRun()
 {
     const char* wanted = std::getenv("CLCONFIGUI_SEARCH_CASES"); // NOLINT(concurrency-mt-unsafe): nobody sets it
     if (wanted == nullptr) {
-        return casesInEveryRun;
+        return CasesInEveryRun;
     }
     const std::string_view text = wanted;
     std::size_t cases = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), cases);
     if (error != std::errc() || end != text.data() + text.size() || cases == 0) {
         ADD_FAILURE() << "CLCONFIGUI_SEARCH_CASES is '" << text << "', not a number of cases from 1 on";
-        return casesInEveryRun;
+        return CasesInEveryRun;
     }
     return cases;
 }
@@ -198,20 +198,20 @@ void compareLists(const char* name, std::uint64_t firstSeed, std::size_t longest
 
 TEST(SearchOracle, GeneratedListsHaveTheLiteralScoresOrderAndCut)
 {
-    compareLists("literal comparison", seed, longestTechniqueQuery, 0, 30);
+    compareLists("literal comparison", Seed, LongestTechniqueQuery, 0, 30);
 }
 
 TEST(SearchOracle, LongListsHaveTheLiteralScoresOrderAndCut)
 {
     // Long enough for every way of sorting and of rejecting; short queries, for the literal version's sake.
-    compareLists("literal comparison of long lists", seed + 1, 5, 1000, 2000);
+    compareLists("literal comparison of long lists", Seed + 1, 5, 1000, 2000);
 }
 
 TEST(SearchOracle, LongListsWithFewMatchesHaveTheLiteralScoresOrderAndCut)
 {
     // What people search most of the time: a letter of the query is in few candidates, and is looked for first.
     Comparison comparison("literal comparison of long lists with few matches");
-    GeneratedTexts texts(seed + 5);
+    GeneratedTexts texts(Seed + 5);
     const std::size_t wanted = casesToRun();
     while (comparison.cases() < wanted) {
         const std::string common = texts.query(5);
@@ -232,7 +232,7 @@ TEST(SearchOracle, LongListsWithFewMatchesHaveTheLiteralScoresOrderAndCut)
 TEST(SearchOracle, EveryLengthAroundTheLimitsWithANulAnywhereHasTheLiteralScores)
 {
     Comparison comparison("literal comparison around the limits");
-    GeneratedTexts texts(seed + 6);
+    GeneratedTexts texts(Seed + 6);
     for (const std::size_t limit : {16, 32, 48, 64, 80, 96, 112, 128, 256}) {
         for (const std::size_t length : {limit - 1, limit, limit + 1}) {
             for (std::size_t nul = 0; nul <= length; ++nul) {
@@ -257,7 +257,7 @@ TEST(SearchOracle, LongTextQueriesHaveTheLiteralScores)
 {
     // Queries of more letters than the literal version of the technique search can take, up to more than it may match.
     Comparison comparison("literal comparison of long text queries");
-    GeneratedTexts texts(seed + 2);
+    GeneratedTexts texts(Seed + 2);
     const std::size_t wanted = casesToRun();
     while (10 * comparison.cases() < wanted) {
         std::string query = texts.query(60);
@@ -273,7 +273,7 @@ TEST(SearchOracle, LongTextQueriesHaveTheLiteralScores)
 TEST(SearchOracle, TechniqueExplorationKnowsOnePathForEveryPlaceOfTheQuery)
 {
     // What the library's version rests on: the greedy path, and for each k that path with its first k positions zero.
-    GeneratedTexts texts(seed + 3);
+    GeneratedTexts texts(Seed + 3);
     std::size_t matching = 0;
     for (int i = 0; i < 2000; ++i) {
         const std::string query = texts.query(8);
@@ -320,7 +320,7 @@ std::optional<int> bestOfThePaths(const std::string& query, const std::string& c
 
 TEST(SearchOracle, LongTechniqueQueriesHaveTheBestOfThosePaths)
 {
-    GeneratedTexts texts(seed + 4);
+    GeneratedTexts texts(Seed + 4);
     std::size_t matching = 0;
     for (int i = 0; i < 500; ++i) {
         const std::string query = texts.query(i % 50 == 0 ? 400 : 80);
@@ -342,7 +342,7 @@ TEST(SearchOracle, TechniqueQueriesOfThousandsOfLettersHaveTheBestOfThosePaths)
 {
     // The longest query that a list is scored for in its own way, and one with which sums wrap. The letters change,
     // since a text that goes on like the query is scored in the other way at any length.
-    GeneratedTexts texts(seed + 7);
+    GeneratedTexts texts(Seed + 7);
     for (const std::size_t length : {10'000, 12'000}) {
         std::string query;
         while (query.size() < length) {

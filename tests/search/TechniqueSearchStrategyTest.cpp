@@ -11,7 +11,7 @@ using testing::IsEmpty;
 
 namespace {
 
-constexpr int common = 100 + 225 - 15; // what every placement in a candidate of less than 200 bytes scores
+constexpr int Common = 100 + 225 - 15; // what every placement in a candidate of less than 200 bytes scores
 
 std::optional<int> scoreOf(std::string_view query, std::string_view candidate)
 {
@@ -57,7 +57,7 @@ TEST(TechniqueSearchStrategy, EmptyCandidateMatchesTheEmptyQueryOnly)
 TEST(TechniqueSearchStrategy, WholeNameIsOneRunWithPrefixBonus)
 {
     // +50 prefix, +15 * 9 for the run of three, +15 for position 0.
-    EXPECT_EQ(scoreOf("ocv", "OCV"), common + 50 + 135 + 15);
+    EXPECT_EQ(scoreOf("ocv", "OCV"), Common + 50 + 135 + 15);
     EXPECT_EQ(scoreOf("ocv", "OCV"), 510);
     EXPECT_EQ(scoreOf("OCV", "OCV"), 510);
     EXPECT_EQ(scoreOf("OCV", "ocv"), 510);
@@ -65,34 +65,34 @@ TEST(TechniqueSearchStrategy, WholeNameIsOneRunWithPrefixBonus)
 
 TEST(TechniqueSearchStrategy, PrefixBonusComparesTheCandidateWithItself)
 {
-    EXPECT_EQ(scoreOf("cv", "OCV"), common + 60); // "OC" is not "CV"
+    EXPECT_EQ(scoreOf("cv", "OCV"), Common + 60); // "OC" is not "CV"
     EXPECT_EQ(scoreOf("cv", "OCV"), 370);
     // The first two letters are alike, so the path with both positions zero has the bonus that the greedy one lacks.
-    EXPECT_EQ(scoreOf("ab", "bbab"), common + 50 + 2 * 15 + 2 * 15 - 2);
+    EXPECT_EQ(scoreOf("ab", "bbab"), Common + 50 + 2 * 15 + 2 * 15 - 2);
 }
 
 TEST(TechniqueSearchStrategy, SingleLetterScoresAsAPrefixWhereverItIs)
 {
     // Resumed behind its only letter the path is (0), where every candidate equals itself.
-    EXPECT_EQ(scoreOf("a", "a"), common + 15 + 15 + 50);
-    EXPECT_EQ(scoreOf("a", "xxxa"), common + 15 + 15 + 50);
-    EXPECT_EQ(scoreOf("a", "x_a"), common + 15 + 15 + 50);
+    EXPECT_EQ(scoreOf("a", "a"), Common + 15 + 15 + 50);
+    EXPECT_EQ(scoreOf("a", "xxxa"), Common + 15 + 15 + 50);
+    EXPECT_EQ(scoreOf("a", "x_a"), Common + 15 + 15 + 50);
 }
 
 TEST(TechniqueSearchStrategy, ZeroPositionsCanBeatScatteredLetters)
 {
     // Greedy: three runs of one, two gaps, no bonus: 41. All positions zero: three at position 0, two gaps: 86.
-    EXPECT_EQ(scoreOf("ace", "xaxcxe"), common + 3 * 15 + 3 * 15 - 2 * 2);
+    EXPECT_EQ(scoreOf("ace", "xaxcxe"), Common + 3 * 15 + 3 * 15 - 2 * 2);
 }
 
 TEST(TechniqueSearchStrategy, LetterAfterUnderscoreOrBlankStartsAWord)
 {
-    EXPECT_EQ(scoreOf("ab", "x_ab"), common + 60 + 30);
-    EXPECT_EQ(scoreOf("ab", "x ab"), common + 60 + 30);
-    EXPECT_EQ(scoreOf("ab", "x-ab"), common + 60);
-    EXPECT_EQ(scoreOf("ab", "xyab"), common + 60);
-    EXPECT_EQ(scoreOf("ab", "x,ab"), common + 60);
-    EXPECT_EQ(scoreOf("a b", "xa b"), common + 135 + 30); // b, inside the run
+    EXPECT_EQ(scoreOf("ab", "x_ab"), Common + 60 + 30);
+    EXPECT_EQ(scoreOf("ab", "x ab"), Common + 60 + 30);
+    EXPECT_EQ(scoreOf("ab", "x-ab"), Common + 60);
+    EXPECT_EQ(scoreOf("ab", "xyab"), Common + 60);
+    EXPECT_EQ(scoreOf("ab", "x,ab"), Common + 60);
+    EXPECT_EQ(scoreOf("a b", "xa b"), Common + 135 + 30); // b, inside the run
 }
 
 TEST(TechniqueSearchStrategy, CandidateWithoutTheLettersInOrderIsLeftOut)
@@ -104,14 +104,14 @@ TEST(TechniqueSearchStrategy, CandidateWithoutTheLettersInOrderIsLeftOut)
 TEST(TechniqueSearchStrategy, CommasChangeNothing)
 {
     for (const char* candidate : {"xab", ",ab", "xab,,", "xab,b,c,d", ",ab,"}) {
-        EXPECT_EQ(scoreOf("ab", candidate), common + 60) << candidate;
+        EXPECT_EQ(scoreOf("ab", candidate), Common + 60) << candidate;
     }
 }
 
 TEST(TechniqueSearchStrategy, NulIsALetterLikeAnyOther)
 {
     using namespace std::string_literals;
-    EXPECT_EQ(scoreOf("a\0"s, "xa\0y"s), common + 60);
+    EXPECT_EQ(scoreOf("a\0"s, "xa\0y"s), Common + 60);
     EXPECT_EQ(scoreOf("a\0"s, "xa"), std::nullopt);
     EXPECT_THAT(find("\0b"s, {"a\0b"s, "ab"}), ElementsAre(0));
 }
@@ -135,7 +135,7 @@ TEST(TechniqueSearchStrategy, RankGivesTheScoresInTheSameOrder)
     const auto matches = TechniqueSearchStrategy::rank("cv", list);
     ASSERT_EQ(matches.size(), 2U);
     EXPECT_EQ(matches[0].index, 0U);
-    EXPECT_EQ(matches[0].score, common + 50 + 60 + 15);
+    EXPECT_EQ(matches[0].score, Common + 50 + 60 + 15);
     EXPECT_EQ(matches[1].index, 2U);
     EXPECT_EQ(matches[1].score, 370);
 }
