@@ -2,12 +2,14 @@
 #include <check/Schema.h>
 #include <check/Suggest.h>
 #include <check/private/Document.h>
+#include <check/private/Findings.h>
 #include <config/UIConfig.h>
 #include <datastorage/Converter.h>
 #include <support/ConfigDocument.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -84,22 +86,58 @@ TEST(CheckDocument, WhatOnlyQtAcceptsMovesNothing)
     const QJsonObject root = QJsonDocument::fromJson(bytes).object();
     ASSERT_EQ(root.size(), 4);
     const Document document(bytes, root);
-    EXPECT_THAT(document.laxPlaces(), ElementsAre(bytes.indexOf('\t'), bytes.indexOf('\\'), bytes.indexOf('.')));
-    EXPECT_FALSE(document.isGivenUp());
+    EXPECT_THAT(document.laxPlaces(), ElementsAre(bytes.indexOf('\t'), bytes.indexOf('\\'), bytes.indexOf("1.")));
     EXPECT_EQ(document.root().member("d"_L1)->offset(), bytes.indexOf('5'));
     EXPECT_EQ(document.root().text("a"_L1), u"1\t2"_s);
 }
 
-TEST(CheckDocument, IsGivenUpAfterAHundredPlacesThatOnlyQtAccepts)
+TEST(CheckDocument, AllPlacesThatOnlyQtAcceptsAreFoundAndTheRestIsLookedAt)
 {
-    const QByteArray bytes = "{ \"a\": \"" + QByteArray(101, '\t') + "\" }";
+    const ConfigDocumentCatalogue catalogue;
+    QByteArray bytes = QJsonDocument(configDocument()).toJson();
+    bytes.replace("\"Version\": 29", "\"Version\": 28, \"a\": \"" + QByteArray(150, '\t') + '"');
     const Document document(bytes, QJsonDocument::fromJson(bytes).object());
-    EXPECT_TRUE(document.isGivenUp());
-    EXPECT_EQ(document.laxPlaces().size(), 100U);
-    const QList<Finding> findings = findingsInText(bytes);
-    EXPECT_EQ(
-        std::count_if(findings.begin(), findings.end(), [](const Finding& each) { return each.rule == Rule::LaxJson; }),
-        101);
+    EXPECT_EQ(document.laxPlaces().size(), 150U);
+    QList<Finding> findings = findingsInText(bytes);
+    EXPECT_EQ(findings.first().rule, Rule::WrongVersion);
+    findings.removeIf([](const Finding& each) { return each.rule == Rule::LaxJson; });
+    EXPECT_THAT(rulesOf(findings), testing::IsSupersetOf({u"wrong-version"_s, u"unknown-key"_s, u"unused-color"_s}));
+}
+
+TEST(CheckDocument, NumbersThatOnlyQtAcceptsAreFound)
+{
+    for (const QByteArray number : {"0.", "-0.", "0.e5", ".5", "-.5", "1.e-3"}) {
+        const QByteArray bytes = "[" + number + ", 1]";
+        ASSERT_TRUE(QJsonDocument::fromJson(bytes).isArray()) << number.constData();
+        const QByteArray object = "{ \"a\": " + number + ", \"b\": 1 }";
+        const Document document(object, QJsonDocument::fromJson(object).object());
+        EXPECT_THAT(document.laxPlaces(), ElementsAre(object.indexOf(number))) << number.constData();
+        EXPECT_EQ(document.root().member("b"_L1)->offset(), object.indexOf("1 }"));
+    }
+    const QByteArray correct = "{ \"a\": " + QByteArray(400, '7') + "e-300, \"b\": [-0, 0.5, 1E+3, 1e-5] }";
+    const Document document(correct, QJsonDocument::fromJson(correct).object());
+    EXPECT_THAT(document.laxPlaces(), ElementsAre());
+    EXPECT_EQ(document.root().member("b"_L1)->offset(), correct.indexOf('['));
+}
+
+TEST(CheckDocument, EscapesThatOnlyQtAcceptsAreFound)
+{
+    const QByteArray bytes = R"({ "a": "\ud800 \q \ud83d\ude00 \\ \udc00\"\ud800\n", "b": 1 })";
+    const Document document(bytes, QJsonDocument::fromJson(bytes).object());
+    EXPECT_THAT(document.laxPlaces(),
+                ElementsAre(bytes.indexOf("\\ud800 "), bytes.indexOf("\\q"), bytes.indexOf("\\udc00"),
+                            bytes.indexOf("\\ud800\\n")));
+    EXPECT_EQ(document.root().member("b"_L1)->offset(), bytes.indexOf("1 }"));
+}
+
+TEST(CheckDocument, KeyThatBeginsWithAByteOrderMarkIsFound)
+{
+    const QByteArray bytes = "{ \"\xEF\xBB\xBFkey\": 5 }";
+    const QJsonObject root = QJsonDocument::fromJson(bytes).object();
+    const Document document(bytes, root);
+    QList<QJsonValue> values;
+    document.root().forEach([&](const Value& member) { values.append(member.json()); });
+    EXPECT_THAT(values, ElementsAre(QJsonValue(5)));
 }
 
 TEST(Check, LinesAndColumnsCountCharactersBehindAByteOrderMark)
@@ -118,14 +156,16 @@ TEST(Check, LinesAndColumnsCountCharactersBehindAByteOrderMark)
 
 TEST(Check, RefusalThatNoRuleExplainsIsAnErrorWithTheSentenceOfTheLoader)
 {
-    // So many places break the rules of JSON that no other rule looks at anything.
-    const QByteArray bytes = "{ \"Version\": 28, \"a\": \"" + QByteArray(101, '\t') + "\" }";
-    const QList<Finding> findings = findingsInText(bytes);
-    EXPECT_EQ(findings.first().rule, Rule::Refused);
-    EXPECT_EQ(findings.first().severity, Severity::Error);
-    EXPECT_EQ(findings.first().pointer, u"/Version"_s);
-    EXPECT_EQ(findings.first().message,
-              u"The application refuses the document: The format version is 28: expected 29."_s);
+    uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::GoOn);
+    refusals.goOnAfter(u"Something is wrong"_s, u"/Somewhere"_s);
+    Findings findings(refusals);
+    findings.addUnexplained();
+    ASSERT_EQ(findings.list().size(), 1);
+    const Finding finding = findings.list().constFirst();
+    EXPECT_EQ(finding.rule, Rule::Refused);
+    EXPECT_EQ(finding.severity, Severity::Error);
+    EXPECT_EQ(finding.pointer, u"/Somewhere"_s);
+    EXPECT_EQ(finding.message, u"The application refuses the document: Something is wrong."_s);
 }
 
 TEST(Check, DocumentsAreReadSideBySideWithoutTheProcessWideConfiguration)
@@ -137,7 +177,9 @@ TEST(Check, DocumentsAreReadSideBySideWithoutTheProcessWideConfiguration)
         const QByteArray bytes = QJsonDocument(configDocument()).toJson();
         const Result result = checkDocument(bytes, configDocument());
         EXPECT_TRUE(result.verdict.loads);
-        EXPECT_THAT(rulesOf(result.findings), ElementsAre(u"unused-color"_s));
+        EXPECT_THAT(rulesOf(result.findings),
+                    ElementsAre(u"unused-color"_s, u"unknown-word"_s, u"unknown-word"_s, u"unknown-category"_s,
+                                u"unknown-word"_s));
     }
     EXPECT_EQ(config.getStatsGraph().size(), before);
 }
@@ -200,6 +242,52 @@ TEST(Suggestion, IsTheNearestKnownName)
     EXPECT_EQ(suggestion(u"Viscosity"_s, known), QString());
     EXPECT_EQ(suggestion(QString(), known), QString());
     EXPECT_EQ(suggestion(QString(1'000'000, u'V'), known), QString());
+}
+
+TEST(Suggestion, SeesThroughLettersThatLookAlike)
+{
+    const QStringList known{u"Voltage / V"_s, u"Area"_s, u"Specific capacity"_s};
+    EXPECT_EQ(suggestion(u"Voltage\u00A0/ V"_s, known), u"Voltage / V"_s);
+    EXPECT_EQ(suggestion(u"\u0410r\u0435\u0430"_s, known), u"Area"_s);
+    EXPECT_EQ(suggestion(u"\u0405pecific \u0441\u0430\u0440\u0430city"_s, known), u"Specific capacity"_s);
+    EXPECT_EQ(didYouMean(u"Voltage\u00A0/ V"_s, known),
+              u" Did you mean \"Voltage / V\"? Character 8 of \"Voltage\u00A0/ V\" is U+00A0, not a blank."_s);
+    EXPECT_EQ(didYouMean(u"V\u043Eltage / V"_s, known),
+              u" Did you mean \"Voltage / V\"? Character 2 of \"V\u043Eltage / V\" is U+043E, not \"o\"."_s);
+    EXPECT_EQ(didYouMean(u"Area\u200B"_s, known),
+              u" Did you mean \"Area\"? Character 5 of \"Area\u200B\" is U+200B, which nobody sees."_s);
+    EXPECT_EQ(didYouMean(u"Ar\U0001F50Bea"_s, known), u" Did you mean \"Area\"?"_s) << "which everybody sees";
+}
+
+TEST(Suggestion, NamesTheOddLetterOfTheKnownNameWhereTheOtherHasNone)
+{
+    EXPECT_EQ(didYouMean(u"Sky blue"_s, {u"Sky\u00A0blue"_s}),
+              u" Did you mean \"Sky\u00A0blue\"? Character 4 of \"Sky\u00A0blue\" is U+00A0, not a blank."_s);
+}
+
+TEST(Quoted, NeverCutsALetterInTwo)
+{
+    const QString text = QString(79, u'a') + u"\U0001F50B"_s + QString(10, u'b');
+    EXPECT_EQ(quoted(text), u'"' + QString(79, u'a') + u"…\""_s);
+    EXPECT_EQ(quoted(QString(80, u'a') + u"\U0001F50B"_s), u'"' + QString(80, u'a') + u"…\""_s);
+}
+
+TEST(DocumentSchema, ListsTheElementsOfTheShippedDocument)
+{
+    QFile file(QStringLiteral(SHIPPED_DATA_DIRECTORY "/UIConfig.json"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonObject colors = QJsonDocument::fromJson(file.readAll())
+                                   .object()
+                                   .value("Colors"_L1)
+                                   .toObject()
+                                   .value("Default colors"_L1)
+                                   .toObject();
+    const QJsonObject schema = QJsonDocument::fromJson(documentSchema())
+                                   .object()["properties"_L1]["Colors"_L1]["properties"_L1]["Default colors"_L1]
+                                   .toObject();
+    QStringList names = words(schema["propertyNames"_L1]["enum"_L1]);
+    names.sort();
+    EXPECT_EQ(names, colors.keys());
 }
 
 TEST(DocumentSchema, ListsTheQuantitiesAndOperatorsOfTheConverter)

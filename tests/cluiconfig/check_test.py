@@ -163,14 +163,31 @@ class Output(InDirectory):
         self.assertNotIn("\u001b", output)
         self.assertIn("\\u001b[31mred\\u0007", output)
 
-    def terminal(self, **environment):
-        name = self.document(changed(examples()["wrong-length"]))
+    def terminal(self, text=None, **environment):
+        name = self.document(text or changed(examples()["wrong-length"]))
         leader, follower = os.openpty()
         subprocess.run([program.PROGRAM, "check", name], cwd=self.directory, stdout=follower, check=False,
                        env={**{k: v for k, v in os.environ.items() if k != "NO_COLOR"}, "TERM": "xterm", **environment})
         os.close(follower)
         with os.fdopen(leader, "rb") as output:
             return output.read1(65536)
+
+    @program.needs_posix("a pseudo terminal")
+    def test_a_terminal_shows_the_line_with_a_mark_under_the_place(self):
+        lines = self.terminal(NO_COLOR="1").decode().splitlines()
+        finding = examples()["wrong-length"]["findings"][0]
+        number, quoted = lines[2].split(" | ")
+        self.assertEqual(int(number), finding["line"])
+        column = lines[3].index("^") - lines[2].index(quoted)
+        self.assertTrue(quoted[column:].startswith("[0, 114]"), lines)
+        self.assertNotIn("^", self.check(self.document(changed(examples()["wrong-length"]))).stdout)
+
+    @program.needs_posix("a pseudo terminal")
+    def test_a_terminal_shows_the_part_of_a_long_line_that_matters(self):
+        text = json.dumps(dict(program.shipped(), Version=28))
+        lines = self.terminal(text, NO_COLOR="1").decode().splitlines()
+        self.assertLess(len(lines[2]), 120)
+        self.assertTrue(lines[2][lines[3].index("^"):].startswith("28"), lines)
 
     @program.needs_posix("a pseudo terminal")
     def test_colours_on_a_terminal_only_and_not_against_the_users_will(self):
@@ -238,18 +255,28 @@ class Hostile(InDirectory):
         self.assertEqual(result.returncode, 2)
         self.assertIn('Cannot open "document.json": Permission denied', result.stdout)
 
-    def test_what_is_no_json_has_the_place_of_the_loaders_message(self):
-        for content, place in (("{\n  \"a\": [,]\n}", (2, 9)), (b"{\"a\": \"\xff\"}", (1, 8)), ("", (1, 1)),
-                               ("[" * 10_000 + "]" * 10_000, None), ("[1]", (1, 1)), ('{"a":' * 10_000, None)):
-            name = self.document(content)
-            result = self.check("--format", "json", name)
+    def test_what_is_no_json_is_said_with_its_place(self):
+        for content, place in (("{\n  \"a\": [,]\n}", (2, 9)), (b"{\"a\": \"\xff\"}", (1, 8)),
+                               ('{"a":' * 10_000, (1, 50_001)), ("{} x", (1, 4)), ("{}\0{}", (1, 3))):
+            result = self.check("--format", "json", self.document(content))
+            self.assertEqual(result.returncode, 1)
+            finding = json.loads(result.stdout)[0]["findings"][0]
+            self.assertEqual((finding["rule"], finding["line"], finding["column"]), ("not-json", *place))
+
+    def test_what_does_not_even_begin_like_a_document_has_the_message_and_the_place_of_the_loader(self):
+        for content, place in (("", (1, 1)), ("[" * 10_000 + "]" * 10_000, (1, 1026)), ("[1]", (1, 1)),
+                               ('{"a":' * 2000 + "1" + "}" * 2000, (1, 5122)), ("\x89PNG\r\n\x1a\n", (1, 1))):
+            result = self.check("--format", "json", self.document(content))
             self.assertEqual(result.returncode, 1)
             report = json.loads(result.stdout)[0]
             self.assertEqual([finding["rule"] for finding in report["findings"]], ["not-json"])
             finding = report["findings"][0]
             self.assertIn(report["error"], finding["message"])
-            if place:
-                self.assertEqual((finding["line"], finding["column"]), place)
+            self.assertEqual((finding["line"], finding["column"]), place)
+
+    def test_a_thousand_syntax_errors_are_not_all_listed(self):
+        findings = self.findings(self.document('{ "a": [' + "1 " * 100_000 + "] }"))
+        self.assertEqual([finding["message"] for finding in findings], ["A comma is missing here."] * 100)
 
     def test_as_deep_as_the_loader_reads(self):
         document = json.loads((EXAMPLES / "valid.json").read_text(encoding="utf-8"))

@@ -77,7 +77,7 @@ class AgainstAjv(program.TestCase):
         valid = (EXAMPLES / "valid.json").read_text(encoding="utf-8")
         documents = []
         for path in sorted(EXAMPLES.glob("*.json")):
-            if path.stem not in ("valid", "not-json", "lax-json"):
+            if path.stem != "valid" and not path.stem.startswith(("not-json", "lax-json")):
                 example = json.loads(path.read_text(encoding="utf-8"))
                 documents.append(json.loads(valid.replace(example["replace"], example["by"], 1)))
         self.assertGreaterEqual(self.compare(documents), len(STRUCTURAL))

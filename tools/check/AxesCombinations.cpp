@@ -44,6 +44,12 @@ std::vector<Reference> readReferences(const Value& entry, QLatin1StringView key,
     return references;
 }
 
+/// Whether something else than pairing is to be corrected first.
+bool waitsForCorrection(const Reference& reference)
+{
+    return !reference.place.isObject() || (reference.categories.isEmpty() && !reference.category.isEmpty());
+}
+
 /// Adds a finding if \p reference names no array.
 void checkReference(const Reference& reference, const Context& with)
 {
@@ -112,10 +118,36 @@ bool namesNothing(const std::vector<Reference>& references)
                        [](const Reference& each) { return each.categories.isEmpty(); });
 }
 
-bool waitsForCorrection(const std::vector<Reference>& references)
+/// Adds a finding for each of \p references that has no category in common with any of \p others, which stand under
+/// \p otherKey. Nothing is said while one of the others waits to be corrected: it may be the one that is missed.
+void checkPairs(const std::vector<Reference>& references, const std::vector<Reference>& others,
+                QLatin1StringView otherKey, const Context& with)
 {
-    return std::any_of(references.begin(), references.end(),
-                       [](const Reference& each) { return each.categories.isEmpty() && !each.category.isEmpty(); });
+    QStringList available;
+    for (const Reference& other : others) {
+        if (other.categories.isEmpty()) {
+            return;
+        }
+        available += other.categories;
+    }
+    available.removeDuplicates();
+    const auto isAvailable = [&](const QString& category) { return available.contains(category); };
+    for (const Reference& reference : references) {
+        if (reference.categories.isEmpty()
+            || std::any_of(reference.categories.begin(), reference.categories.end(), isAvailable)) {
+            continue;
+        }
+        const std::optional<Value> category = reference.place.member(keys::Category);
+        with.findings.warn(Rule::UnpairedArray, category.value_or(reference.place), [&] {
+            QStringList better = with.catalogue.categoriesOf(reference.name);
+            better.removeIf([&](const QString& each) { return !isAvailable(each); });
+            const QString advice = better.isEmpty()
+                ? u"Name an array of %1, or remove it."_s.arg(alternatives(available))
+                : u"Write \"Category\": %1."_s.arg(alternatives(better));
+            return u"%1 of %2 pairs with nothing, because what \"%3\" names here is of %4: it is not offered. %5"_s.arg(
+                quoted(reference.name), alternatives(reference.categories), otherKey, alternatives(available), advice);
+        });
+    }
 }
 
 void checkEntry(const Value& entry, const QList<AxesCombination>& combinations, const Context& with)
@@ -127,7 +159,15 @@ void checkEntry(const Value& entry, const QList<AxesCombination>& combinations, 
             checkReference(reference, with);
         }
     }
-    if (combinations.isEmpty() && !waitsForCorrection(xs) && !waitsForCorrection(ys)) {
+    if (!combinations.isEmpty()) {
+        checkPairs(xs, ys, keys::Y1Y2, with);
+        checkPairs(ys, xs, keys::X, with);
+        return;
+    }
+    const auto isList = [&](QLatin1StringView key) { return entry.json()[key].isArray(); };
+    const bool isComplete = isList(keys::X) && isList(keys::Y1Y2) && std::ranges::none_of(xs, waitsForCorrection)
+        && std::ranges::none_of(ys, waitsForCorrection);
+    if (isComplete) {
         with.findings.warn(Rule::NoCombination, entry, [&] {
             const QString why = namesNothing(xs) ? u"\"X\" names no array"_s
                 : namesNothing(ys)               ? u"\"Y1/Y2\" names no array"_s

@@ -20,12 +20,22 @@ Catalogue::Catalogue(const cl::batterydata::ClConfigDataArrayManager& arrays)
             m_names.append(name);
         }
         categories.append(array->getCategory());
+        if (!array->getMachineName().isEmpty()) {
+            m_namesByMachineName.insert(array->getMachineName(), name);
+        }
     }
 }
 
 QString Catalogue::unknownName(const QString& name, const QString& effect) const
 {
-    return u"The catalogue has no array %1: %2.%3"_s.arg(quoted(name), effect, didYouMean(name, m_names));
+    return u"The catalogue has no array %1: %2.%3"_s.arg(quoted(name), effect, nameMeantBy(name));
+}
+
+QString Catalogue::nameMeantBy(const QString& name) const
+{
+    const QString machine = m_namesByMachineName.value(name);
+    return machine.isEmpty() ? didYouMean(name, m_names)
+                             : u" That is a machine name: did you mean %1?"_s.arg(quoted(machine));
 }
 
 QString Catalogue::unknownNameIn(const QString& category, const QString& name, const QString& effect) const
@@ -33,11 +43,7 @@ QString Catalogue::unknownNameIn(const QString& category, const QString& name, c
     QString advice = didYouMean(name, m_namesByCategory.value(category));
     const QStringList others = categoriesOf(name);
     if (!others.isEmpty()) {
-        QStringList quotedCategories;
-        for (const QString& other : others) {
-            quotedCategories.append(quoted(other));
-        }
-        advice.prepend(u" There is one in "_s + quotedCategories.join(u", "_s) + u'.');
+        advice.prepend(u" There is one in "_s + listed(others) + u'.');
     }
     return u"The category %1 has no array %2: %3.%4"_s.arg(quoted(category), quoted(name), effect, advice);
 }

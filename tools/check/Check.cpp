@@ -3,6 +3,7 @@
 #include "Suggest.h"
 #include "private/Sections.h"
 #include "private/Structure.h"
+#include "private/Syntax.h"
 
 #include <axes/AxesCombinationManager.h>
 #include <base/Singleton.h>
@@ -12,6 +13,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
 
@@ -63,7 +65,33 @@ Finding notJson(const QString& error)
     return finding;
 }
 
-/// Fills in lines and columns.
+/// Fills in what stands around the place on its line.
+void quote(Finding& finding, const QByteArray& bytes)
+{
+    constexpr qsizetype MostBefore = 60; // characters
+    constexpr qsizetype MostAfter = 40;
+    constexpr qsizetype LongestCharacter = 4; // bytes
+    const qsizetype offset = std::min(finding.offset, bytes.size());
+    const QByteArrayView near =
+        QByteArrayView(bytes).sliced(std::max<qsizetype>(0, offset - MostBefore * LongestCharacter));
+    const QByteArrayView before = near.first(offset - (bytes.size() - near.size()));
+    const QByteArrayView after =
+        QByteArrayView(bytes).sliced(offset).first(std::min(bytes.size() - offset, MostAfter * LongestCharacter));
+    const qsizetype lineStart = before.lastIndexOf('\n') + 1;
+    const qsizetype lineEnd = after.indexOf('\n');
+    finding.before = QString::fromUtf8(before.sliced(lineStart));
+    finding.after = QString::fromUtf8(lineEnd < 0 ? after : after.first(lineEnd)).trimmed();
+    const bool isCut = lineStart == 0 && before.size() < offset;
+    if (isCut || finding.before.size() > MostBefore) {
+        finding.before = u'…' + finding.before.last(std::min(finding.before.size(), MostBefore));
+    }
+    const bool isLong = lineEnd < 0 && offset + after.size() < bytes.size();
+    if (isLong || finding.after.size() > MostAfter) {
+        finding.after = finding.after.first(std::min(finding.after.size(), MostAfter)) + u'…';
+    }
+}
+
+/// Fills in lines and columns, and what stands there.
 void locate(QList<Finding>& findings, const QByteArray& bytes)
 {
     std::vector<Finding*> byOffset;
@@ -87,6 +115,7 @@ void locate(QList<Finding>& findings, const QByteArray& bytes)
         }
         finding->line = line;
         finding->column = column;
+        quote(*finding, bytes);
     }
 }
 
@@ -98,16 +127,10 @@ void checkSpelling(const Document& document, Findings& findings)
     for (const qsizetype offset : document.laxPlaces()) {
         const auto byte = static_cast<unsigned char>(document.bytes().at(offset));
         const QString what = byte == '\\' ? u"The escape after this backslash is none of JSON's"_s
-            : byte == '.'                 ? u"A number ends in a point"_s
-                                          : u"A text holds a raw control character"_s;
+            : byte < 0x20                 ? u"A text holds a raw control character"_s
+                                          : u"This number is not written as in JSON"_s;
         finding.offset = offset;
         finding.message = what + u": the application accepts it, other programs will not. Write it as JSON wants it."_s;
-        findings.add(finding);
-    }
-    if (document.isGivenUp()) {
-        finding.offset = 0;
-        finding.message = u"The document breaks the rules of JSON in so many places that nothing else was looked at. "
-                          "Correct those that are listed first."_s;
         findings.add(finding);
     }
     for (const Value& value : document.shadowedKeys()) {
@@ -145,7 +168,7 @@ Result checkDocument(const QByteArray& bytes, const QJsonObject& root)
     Findings findings(refusals);
     checkSpelling(document, findings);
     checkStructure(document.root(), findings);
-    checkSections(document.root(), {catalogue, axes, findings});
+    checkSections(document.root(), {catalogue, axes, configuration, findings});
     findings.addUnexplained();
 
     Result result;
@@ -154,6 +177,34 @@ Result checkDocument(const QByteArray& bytes, const QJsonObject& root)
     locate(result.findings, bytes);
     return result;
 }
+
+namespace {
+
+/// The findings in a text that the application refuses with \p error, since it is no JSON object.
+QList<Finding> findingsInText(const QByteArray& bytes, const QString& error)
+{
+    const MendedText mended(bytes);
+    QList<Finding> findings;
+    for (const SyntaxError& each : mended.errors()) {
+        findings.append({Rule::NotJson, Severity::Error, each.offset, QString(), each.message});
+    }
+    if (findings.isEmpty()) {
+        return {notJson(error)};
+    }
+    const QJsonDocument document = QJsonDocument::fromJson(mended.json());
+    if (document.isObject()) {
+        QList<Finding> others = checkDocument(mended.json(), document.object()).findings;
+        others.removeIf([&](const Finding& finding) { return mended.isMissing(finding.offset); });
+        for (Finding& finding : others) {
+            finding.offset = mended.originalOffset(finding.offset);
+        }
+        findings += others;
+    }
+    locate(findings, mended.text());
+    return findings;
+}
+
+} // namespace
 
 Report check(const QString& file, const Severities& severities)
 {
@@ -181,7 +232,7 @@ Report check(const QString& file, const Severities& severities)
         report.verdict = std::move(result.verdict);
         report.findings = std::move(result.findings);
     } else {
-        report.findings = {notJson(report.verdict.error)};
+        report.findings = findingsInText(bytes, report.verdict.error);
     }
     for (Finding& finding : report.findings) {
         finding.severity = severities.value(finding.rule, finding.severity);

@@ -4,6 +4,8 @@
 
 #include <QHash>
 #include <QJsonDocument>
+#include <QRegularExpression>
+#include <QStringDecoder>
 #include <QStringList>
 
 #include <rapidjson/memorystream.h>
@@ -19,7 +21,6 @@ namespace cluiconfig::check {
 namespace {
 
 constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
-constexpr size_t MostLaxPlaces = 100;
 
 } // namespace
 
@@ -30,12 +31,12 @@ struct TreeBuilder
     // NOLINTBEGIN(readability-identifier-naming): the parser calls them by these names
     bool Null() { return add(here() - 4); }
     bool Bool(bool value) { return add(here() - (value ? 4 : 5)); }
-    bool Int(int /*value*/) { return add(numberStart()); }
-    bool Uint(unsigned /*value*/) { return add(numberStart()); }
-    bool Int64(int64_t /*value*/) { return add(numberStart()); }
-    bool Uint64(uint64_t /*value*/) { return add(numberStart()); }
-    bool Double(double /*value*/) { return add(numberStart()); }
-    bool RawNumber(const char* /*text*/, rapidjson::SizeType /*length*/, bool /*copy*/) { return add(numberStart()); }
+    bool Int(int /*value*/) { return add(here() - 1); }
+    bool Uint(unsigned /*value*/) { return add(here() - 1); }
+    bool Int64(int64_t /*value*/) { return add(here() - 1); }
+    bool Uint64(uint64_t /*value*/) { return add(here() - 1); }
+    bool Double(double /*value*/) { return add(here() - 1); }
+    bool RawNumber(const char* /*text*/, rapidjson::SizeType /*length*/, bool /*copy*/) { return add(here() - 1); }
     bool String(const char* /*text*/, rapidjson::SizeType /*length*/, bool /*copy*/) { return add(stringStart()); }
     bool Key(const char* /*text*/, rapidjson::SizeType /*length*/, bool /*copy*/)
     {
@@ -49,15 +50,6 @@ struct TreeBuilder
     // NOLINTEND(readability-identifier-naming)
 
     quint32 here() const { return static_cast<quint32>(stream.Tell()); }
-
-    quint32 numberStart() const
-    {
-        quint32 start = here();
-        while (start > 0 && QByteArrayView("+-.0123456789Ee").contains(bytes[start - 1])) {
-            --start;
-        }
-        return start;
-    }
 
     quint32 stringStart() const
     {
@@ -110,37 +102,74 @@ struct TreeBuilder
 
 namespace {
 
-/// A byte of a document that the parser refuses although Qt accepts it, and one that may stand there instead without
-/// moving anything.
-struct Patch
+/// How many bytes behind the backslash at \p escape belong to it, if JSON and the parser know it; nothing otherwise.
+std::optional<qsizetype> escapeSize(QByteArrayView bytes, qsizetype escape)
 {
-    qsizetype offset = -1;
-    char byte = ' ';
-};
-
-Patch patchFor(const QByteArray& bytes, const rapidjson::Reader& reader)
-{
-    constexpr qsizetype LongestEscape = 12; // a pair of surrogates
-    const auto errorOffset = static_cast<qsizetype>(reader.GetErrorOffset());
-    const auto lastBefore = [&](auto isIt) -> qsizetype {
-        for (qsizetype back = 0; back <= std::min(LongestEscape, errorOffset); ++back) {
-            if (errorOffset - back < bytes.size() && isIt(bytes.at(errorOffset - back))) {
-                return errorOffset - back;
-            }
-        }
-        return -1;
+    const auto unit = [&](qsizetype at) {
+        const QByteArrayView digits = bytes.sliced(std::min(at, bytes.size()))
+                                          .first(std::min<qsizetype>(4, bytes.size() - std::min(at, bytes.size())));
+        bool isNumber = false;
+        const uint value = digits.toUInt(&isNumber, 16);
+        return isNumber && digits.size() == 4 ? std::optional(static_cast<char16_t>(value)) : std::nullopt;
     };
-    switch (reader.GetParseErrorCode()) {
-    case rapidjson::kParseErrorNumberMissFraction:
-        return {lastBefore([](char byte) { return byte == '.'; }), '0'};
-    case rapidjson::kParseErrorStringUnicodeSurrogateInvalid:
-        return {lastBefore([](char byte) { return byte == '\\'; }), 'x'};
-    default:
-        break; // the parser has one error for unknown escapes and raw control characters
+    const char kind = bytes.at(escape + 1);
+    if (kind != 'u') {
+        return QByteArrayView("\"\\/bfnrt").contains(kind) ? std::optional<qsizetype>(1) : std::nullopt;
     }
-    const qsizetype offset =
-        lastBefore([](char byte) { return byte == '\\' || static_cast<unsigned char>(byte) < 0x20; });
-    return {offset, offset >= 0 && bytes.at(offset) == '\\' ? 'x' : ' '};
+    const auto first = unit(escape + 2);
+    if (first && !QChar::isSurrogate(*first)) {
+        return 5;
+    }
+    const bool isPair = first && QChar::isHighSurrogate(*first) && bytes.sliced(escape + 6).startsWith("\\u");
+    const auto second = isPair ? unit(escape + 8) : std::nullopt;
+    return second && QChar::isLowSurrogate(*second) ? std::optional<qsizetype>(11) : std::nullopt;
+}
+
+bool isNumberOfJson(QByteArrayView digits)
+{
+    static const QRegularExpression number(u"\\A-?(0|[1-9][0-9]*)(\\.[0-9]+)?([eE][+-]?[0-9]+)?\\z"_s);
+    return number.match(QString::fromLatin1(digits)).hasMatch();
+}
+
+/// A text that Qt reads, as one that every parser reads: what only Qt accepts is replaced by something else of the same
+/// length and kind, and numbers, whose values nobody asks of it, by short ones.
+QByteArray strictText(QByteArray text, std::vector<qsizetype>& laxPlaces)
+{
+    constexpr QByteArrayView NumberBytes("+-.0123456789Ee");
+    const auto replace = [&](qsizetype offset, char by) {
+        laxPlaces.push_back(offset);
+        text[offset] = by;
+    };
+    if (text.startsWith(ByteOrderMark)) {
+        text.replace(0, ByteOrderMark.size(), "   ");
+    }
+    bool isInText = false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char byte = text.at(i);
+        if (byte == '"') {
+            isInText = !isInText;
+        } else if (isInText && byte == '\\') {
+            const std::optional<qsizetype> size = escapeSize(text, i);
+            if (!size) {
+                replace(i, 'x');
+            }
+            i += size.value_or(0);
+        } else if (isInText && static_cast<unsigned char>(byte) < 0x20) {
+            replace(i, ' ');
+        } else if (!isInText && byte != 'e' && byte != 'E' && NumberBytes.contains(byte)) {
+            qsizetype end = i;
+            while (end < text.size() && NumberBytes.contains(text.at(end))) {
+                ++end;
+            }
+            if (!isNumberOfJson(QByteArrayView(text).sliced(i, end - i))) {
+                laxPlaces.push_back(i);
+            }
+            std::fill(text.begin() + i, text.begin() + end, ' ');
+            text[i] = '1';
+            i = end - 1;
+        }
+    }
+    return text;
 }
 
 } // namespace
@@ -149,29 +178,14 @@ Document::Document(const QByteArray& bytes, const QJsonObject& root)
     : m_bytes(bytes)
     , m_root(root)
 {
-    QByteArray patched = bytes;
-    if (patched.startsWith(ByteOrderMark)) {
-        patched.replace(0, ByteOrderMark.size(), "   ");
-    }
-    for (;;) {
-        rapidjson::MemoryStream stream(patched.constData(), static_cast<size_t>(patched.size()));
-        rapidjson::Reader reader;
-        TreeBuilder builder{patched, stream};
-        constexpr unsigned Flags = rapidjson::kParseIterativeFlag;
-        if (!reader.Parse<Flags>(stream, builder).IsError()) {
-            m_nodes = std::move(builder.nodes);
-            break;
-        }
-        const Patch patch = patchFor(patched, reader);
-        if (patch.offset < 0 || m_laxPlaces.size() == MostLaxPlaces) {
-            m_isGivenUp = true;
-            m_nodes = {Node{0, 0, 0, 1}};
-            break;
-        }
-        m_laxPlaces.push_back(patch.offset);
-        patched[patch.offset] = patch.byte;
-    }
-    std::sort(m_laxPlaces.begin(), m_laxPlaces.end());
+    const QByteArray strict = strictText(bytes, m_laxPlaces);
+    rapidjson::MemoryStream stream(strict.constData(), static_cast<size_t>(strict.size()));
+    rapidjson::Reader reader;
+    TreeBuilder builder{strict, stream};
+    constexpr unsigned Flags = rapidjson::kParseIterativeFlag;
+    const bool isRead = !reader.Parse<Flags>(stream, builder).IsError();
+    Q_ASSERT(isRead);
+    m_nodes = isRead ? std::move(builder.nodes) : std::vector{Node{0, 0, 0, 1}};
     markShadowed();
 }
 
@@ -204,7 +218,9 @@ QString Document::keyAt(quint32 offset) const
     }
     const QByteArrayView key = QByteArrayView(m_bytes).sliced(offset + 1, end - offset - 1);
     if (isPlain) {
-        return QString::fromUtf8(key);
+        // Not QString::fromUtf8(), which drops a byte-order mark that begins the key.
+        return QStringDecoder(QStringDecoder::Utf8,
+                              QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom)(key);
     }
     return QJsonDocument::fromJson('[' + m_bytes.mid(offset, end - offset + 1) + ']').array().at(0).toString();
 }

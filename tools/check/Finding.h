@@ -16,6 +16,9 @@ struct Finding
     QString message; ///< what happens, and what to write instead
     qsizetype line = 1;
     qsizetype column = 1; ///< in characters
+    QString
+        before{}; ///< What stands on the line before the place, and from it on; the ends of a long line are cut off.
+    QString after{};
 };
 
 } // namespace cluiconfig::check

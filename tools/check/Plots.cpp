@@ -8,6 +8,14 @@ namespace keys = uiconfig::keys;
 
 namespace cluiconfig::check {
 
+void checkArray(const Value& name, const QString& category, const QString& effect, const Context& with)
+{
+    if (!name.text().isEmpty() && !with.catalogue.has(name.text(), category)) {
+        with.findings.warn(Rule::UnknownArray, name,
+                           [&] { return with.catalogue.unknownNameIn(category, name.text(), effect); });
+    }
+}
+
 void checkPlot(const Value& plot, std::initializer_list<QLatin1StringView> axes,
                std::initializer_list<QLatin1StringView> others, const Context& with)
 {
@@ -21,25 +29,18 @@ void checkPlot(const Value& plot, std::initializer_list<QLatin1StringView> axes,
                            [&] { return with.catalogue.unknownCategory(category, noAxes); });
         return;
     }
-    const auto check = [&](const Value& place, const QString& effect) {
-        const QString name = place.text();
-        if (!name.isEmpty() && !with.catalogue.has(name, category)) {
-            with.findings.warn(Rule::UnknownArray, place,
-                               [&] { return with.catalogue.unknownNameIn(category, name, effect); });
-        }
-    };
     for (const QLatin1StringView key : axes) {
         if (const std::optional<Value> place = plot.member(key)) {
-            check(*place, noAxes);
+            checkArray(*place, category, noAxes, with);
         }
     }
     const QString nothing = u"there is nothing to show for it"_s;
     for (const QLatin1StringView key : others) {
         const std::optional<Value> place = plot.member(key);
         if (place && place->isArray()) {
-            place->forEach([&](const Value& name) { check(name, nothing); });
+            place->forEach([&](const Value& name) { checkArray(name, category, nothing, with); });
         } else if (place) {
-            check(*place, nothing);
+            checkArray(*place, category, nothing, with);
         }
     }
 }

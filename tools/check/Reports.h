@@ -7,8 +7,15 @@
 
 namespace cluiconfig::check {
 
+/// How the report for people looks.
+struct TextStyle
+{
+    bool isColored = false;
+    bool quotesLines = false; ///< Below each finding, its line of the document, with a mark under the place.
+};
+
 /// The verdict, a line a finding and, if there are any, a line that counts them.
-QByteArray asText(const Report& report, bool isColored);
+QByteArray asText(const Report& report, const TextStyle& style);
 
 /// An array with one object a document: "file", "loads", "error" (null when it loads) and "findings".
 QByteArray asJson(const QList<Report>& reports);

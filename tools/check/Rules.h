@@ -36,9 +36,11 @@ enum class Rule {
     UnknownCategory,
     UnknownArray,
     NoCombination,
+    UnpairedArray,
     RepeatedCombination,
     MissingY,
     InvalidRepresentation,
+    NoDefault,
     SecondDefault,
     RepeatedName,
     HiddenKind,
@@ -46,6 +48,7 @@ enum class Rule {
     UnusedColor,
     UnknownColor,
     ParameterGap,
+    UnknownTitle,
     FormulaGroup,
 };
 

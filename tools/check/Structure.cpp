@@ -145,8 +145,23 @@ public:
                     validate(member, *additional, additionalSchema, m_validation);
                 } else {
                     m_validation.findings.warnAtKey(Rule::UnknownKey, member, [&] {
-                        return unknownKeyMessage(member, m_value.json().toObject(), m_schema);
+                        return unknownKeyMessage(key, keysMeantBy(key, m_value.json().toObject(), m_schema), m_schema);
                     });
+                }
+            });
+        }
+        return true;
+    }
+
+    bool visit(const PropertyNamesConstraint& /*constraint*/) override
+    {
+        if (m_value.isObject()) {
+            const QJsonObject schema = m_validation.compiled.resolved(m_schema.value("propertyNames"_L1));
+            const QJsonArray names = schema.value("enum"_L1).toArray();
+            m_value.forEach([&](const Value& member) {
+                if (!names.contains(member.key())) {
+                    m_validation.findings.warnAtKey(Rule::UnknownWord, member,
+                                                    [&] { return unknownWordMessage(member.key(), schema); });
                 }
             });
         }
@@ -185,9 +200,24 @@ private:
 
     void reportMissing(const QString& key)
     {
+        const QString pointer = m_value.pointer() + jsonPointer(key);
+        if (!m_validation.findings.isRefused(pointer) && isMisspelt(key)) {
+            return; // the finding about the misspelt key says what to do
+        }
         const QJsonObject schema = m_validation.compiled.resolved(m_schema.value(PropertiesKey).toObject().value(key));
-        m_validation.findings.report(Rule::MissingKey, m_value, m_value.pointer() + jsonPointer(key),
+        m_validation.findings.report(Rule::MissingKey, m_value, pointer,
                                      [&](bool isRefused) { return missingKeyMessage(key, schema, isRefused); });
+    }
+
+    /// Whether the value has an unknown key by which the known \p key may be meant.
+    bool isMisspelt(const QString& key) const
+    {
+        const QJsonObject object = m_value.json().toObject();
+        const QJsonObject known = m_schema.value(PropertiesKey).toObject();
+        const QStringList given = object.keys();
+        return std::any_of(given.begin(), given.end(), [&](const QString& each) {
+            return !known.contains(each) && keysMeantBy(each, object, m_schema) == QStringList{key};
+        });
     }
 
     bool isViolated(std::initializer_list<QString> keywords) const
@@ -212,7 +242,7 @@ private:
             findings.report(Rule::EmptyText, m_value,
                             [this](bool isRefused) { return emptyTextMessage(m_value, m_schema, isRefused); });
         } else if (isViolated({u"enum"_s})) {
-            findings.warn(Rule::UnknownWord, m_value, [this] { return unknownWordMessage(m_value, m_schema); });
+            findings.warn(Rule::UnknownWord, m_value, [this] { return unknownWordMessage(m_value.text(), m_schema); });
         }
         if (isViolated({u"minItems"_s, u"maxItems"_s})) {
             findings.report(Rule::WrongLength, m_value,

@@ -3,6 +3,7 @@
 #include "Suggest.h"
 #include "private/Findings.h"
 
+#include <QColor>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -94,6 +95,24 @@ QString shown(const QJsonValue& value)
     }
 }
 
+/// What to write instead of a text where an object or an array belongs; empty if that cannot be told.
+QString meantByText(const QString& text, const QJsonObject& schema)
+{
+    const QString type = schema.value(TypeKey).toString();
+    const QJsonArray required = schema.value("required"_L1).toArray();
+    if (text.isEmpty()) {
+        return {};
+    }
+    if (type == "object"_L1 && required.size() == 1) {
+        return u"{ %1: %2 }"_s.arg(quoted(required.first().toString()), quoted(text));
+    }
+    const QColor color(text);
+    if (type == "array"_L1 && schema.value("minItems"_L1).toInt() == 3 && color.isValid()) {
+        return u"[%1, %2, %3]"_s.arg(color.red()).arg(color.green()).arg(color.blue());
+    }
+    return {};
+}
+
 QString subject(const Value& value)
 {
     return value.hasKey() ? quoted(value.key()) : value.isRoot() ? u"The document"_s : u"This element"_s;
@@ -103,8 +122,9 @@ QString subject(const Value& value)
 
 QString wrongTypeMessage(const Value& value, const QJsonObject& schema, bool isRefused)
 {
+    const QString meant = meantByText(value.text(), schema);
     return u"%1 is %2: %3. Write %4."_s.arg(subject(value), shown(value.json()), effect(schema, TypeKey, isRefused),
-                                            expected(schema));
+                                            meant.isEmpty() ? expected(schema) : meant);
 }
 
 QString missingKeyMessage(const QString& key, const QJsonObject& schema, bool isRefused)
@@ -113,28 +133,40 @@ QString missingKeyMessage(const QString& key, const QJsonObject& schema, bool is
                                                                 expected(schema));
 }
 
-QString unknownKeyMessage(const Value& member, const QJsonObject& object, const QJsonObject& schema)
+QStringList keysMeantBy(const QString& key, const QJsonObject& object, const QJsonObject& schema)
 {
     QStringList lacking = schema.value("properties"_L1).toObject().keys();
-    lacking.removeIf([&](const QString& key) { return object.contains(key); });
-    QString advice = didYouMean(member.key(), lacking);
-    if (advice.isEmpty()) {
-        advice = u" Remove it."_s;
+    lacking.removeIf([&](const QString& each) { return object.contains(each); });
+    const QString meant = suggestion(key, lacking);
+    if (!meant.isEmpty()) {
+        return {meant};
     }
-    const QString given = schema.value(EffectKey).toObject().value("additionalProperties"_L1).toString();
-    return u"The application does not know the key %1 and ignores it%2.%3"_s.arg(
-        quoted(member.key()), given.isEmpty() ? QString() : u": "_s + given, advice);
+    lacking.removeIf([&](const QString& each) {
+        return key.isEmpty()
+            || !(key.size() > 2 ? each.contains(key, Qt::CaseInsensitive) : each.startsWith(key, Qt::CaseInsensitive));
+    });
+    return lacking;
 }
 
-QString unknownWordMessage(const Value& value, const QJsonObject& schema)
+QString unknownKeyMessage(const QString& key, const QStringList& meant, const QJsonObject& schema)
 {
-    QString advice = didYouMean(value.text(), words(schema));
+    const QString advice = meant.isEmpty() ? u" Remove it."_s
+        : meant.size() == 1                ? didYouMean(key, meant.first())
+                                           : u" Did you mean %1?"_s.arg(alternatives(meant));
+    const QString given = schema.value(EffectKey).toObject().value("additionalProperties"_L1).toString();
+    return u"The application does not know the key %1 and ignores it%2.%3"_s.arg(
+        quoted(key), given.isEmpty() ? QString() : u": "_s + given, advice);
+}
+
+QString unknownWordMessage(const QString& word, const QJsonObject& schema)
+{
+    QString advice = didYouMean(word, words(schema));
     if (advice.isEmpty()) {
-        advice = u" Write %1."_s.arg(expected(schema) == u"a text in quotes"_s
-                                         ? u"one of the names that `cluiconfig schema` lists"_s
-                                         : expected(schema));
+        const QString command = schema.value("x-listed-by"_L1).toString();
+        advice = u" Write %1."_s.arg(command.isEmpty() ? expected(schema)
+                                                       : u"one of the names that `%1` lists"_s.arg(command));
     }
-    return u"%1 means nothing here: %2.%3"_s.arg(quoted(value.text()), effect(schema, EnumKey, false), advice);
+    return u"%1 means nothing here: %2.%3"_s.arg(quoted(word), effect(schema, EnumKey, false), advice);
 }
 
 QString emptyTextMessage(const Value& value, const QJsonObject& schema, bool isRefused)
@@ -144,8 +176,10 @@ QString emptyTextMessage(const Value& value, const QJsonObject& schema, bool isR
 
 QString wrongLengthMessage(const Value& value, const QJsonObject& schema)
 {
-    return u"%1 has %2 elements: %3. Write %4."_s.arg(subject(value), QString::number(value.json().toArray().size()),
-                                                      Refuses, QString::number(schema.value("minItems"_L1).toInt()));
+    const qsizetype count = value.json().toArray().size();
+    return u"%1 has %2: %3. Write %4."_s.arg(subject(value),
+                                             u"%1 element%2"_s.arg(count).arg(count == 1 ? u""_s : u"s"_s), Refuses,
+                                             QString::number(schema.value("minItems"_L1).toInt()));
 }
 
 QString outOfRangeMessage(const Value& value, const QJsonObject& schema)

@@ -1,6 +1,7 @@
 #include "Suggest.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <numeric>
 #include <utility>
@@ -40,12 +41,119 @@ qsizetype editDistance(const QString& a, const QString& b)
     return row.back();
 }
 
+/// Letters that look like others, beside those that Unicode calls compatible.
+struct LookAlike
+{
+    char32_t letter;
+    char16_t plain;
+};
+
+constexpr std::array LookAlikes{
+    // Cyrillic
+    LookAlike{U'А', u'A'},
+    LookAlike{U'В', u'B'},
+    LookAlike{U'Е', u'E'},
+    LookAlike{U'Ѕ', u'S'},
+    LookAlike{U'І', u'I'},
+    LookAlike{U'Ј', u'J'},
+    LookAlike{U'К', u'K'},
+    LookAlike{U'М', u'M'},
+    LookAlike{U'Н', u'H'},
+    LookAlike{U'О', u'O'},
+    LookAlike{U'Р', u'P'},
+    LookAlike{U'С', u'C'},
+    LookAlike{U'Т', u'T'},
+    LookAlike{U'У', u'Y'},
+    LookAlike{U'Х', u'X'},
+    LookAlike{U'а', u'a'},
+    LookAlike{U'е', u'e'},
+    LookAlike{U'о', u'o'},
+    LookAlike{U'р', u'p'},
+    LookAlike{U'с', u'c'},
+    LookAlike{U'у', u'y'},
+    LookAlike{U'х', u'x'},
+    LookAlike{U'ѕ', u's'},
+    LookAlike{U'і', u'i'},
+    LookAlike{U'ј', u'j'},
+    // Greek
+    LookAlike{U'Α', u'A'},
+    LookAlike{U'Β', u'B'},
+    LookAlike{U'Ε', u'E'},
+    LookAlike{U'Ζ', u'Z'},
+    LookAlike{U'Η', u'H'},
+    LookAlike{U'Ι', u'I'},
+    LookAlike{U'Κ', u'K'},
+    LookAlike{U'Μ', u'M'},
+    LookAlike{U'Ν', u'N'},
+    LookAlike{U'Ο', u'O'},
+    LookAlike{U'Ρ', u'P'},
+    LookAlike{U'Τ', u'T'},
+    LookAlike{U'Υ', u'Y'},
+    LookAlike{U'Χ', u'X'},
+    LookAlike{U'ο', u'o'},
+    LookAlike{U'ν', u'v'},
+    // Dashes, slashes, quotes
+    LookAlike{U'‐', u'-'},
+    LookAlike{U'‑', u'-'},
+    LookAlike{U'–', u'-'},
+    LookAlike{U'—', u'-'},
+    LookAlike{U'−', u'-'},
+    LookAlike{U'⁄', u'/'},
+    LookAlike{U'∕', u'/'},
+    LookAlike{U'‘', u'\''},
+    LookAlike{U'’', u'\''},
+    LookAlike{U'“', u'"'},
+    LookAlike{U'”', u'"'},
+};
+
+/// The letter that \p letter looks like, in its own case; nothing for what nobody sees.
+QString plainLetter(char32_t letter)
+{
+    if (QChar::category(letter) == QChar::Other_Format) {
+        return {};
+    }
+    const auto* found = std::ranges::find(LookAlikes, letter, &LookAlike::letter);
+    return found == LookAlikes.end() ? QString::fromUcs4(&letter, 1).normalized(QString::NormalizationForm_KC)
+                                     : QString(QChar(found->plain));
+}
+
+/// \p text as people see it: look-alikes, cases and blanks are the same.
+QString plain(const QString& text)
+{
+    QString result;
+    const QList<uint> letters = text.toUcs4();
+    for (const uint letter : letters) {
+        result += plainLetter(letter);
+    }
+    return result.toCaseFolded().simplified();
+}
+
+/// A sentence about the first letter of \p text that is not what it looks like, unless \p right has it, too.
+QString oddLetter(const QString& text, const QString& right)
+{
+    const QList<uint> letters = text.toUcs4();
+    const QList<uint> rightLetters = right.toUcs4();
+    for (qsizetype i = 0; i < letters.size(); ++i) {
+        const char32_t letter = letters.at(i);
+        const QString seen = plainLetter(letter);
+        if (seen != QString::fromUcs4(&letter, 1) && !rightLetters.contains(letters.at(i))) {
+            const QString instead = seen.isEmpty() ? u"which nobody sees"_s
+                : seen == u" "_s                   ? u"not a blank"_s
+                                                   : u"not "_s + quoted(seen);
+            return u" Character %1 of %2 is U+%3, %4."_s.arg(
+                QString::number(i + 1), quoted(text),
+                QString::number(letters.at(i), 16).toUpper().rightJustified(4, u'0'), instead);
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 QString suggestion(const QString& text, const QStringList& known)
 {
-    const QString wrong = text.toCaseFolded().simplified();
-    if (wrong.isEmpty() || wrong.size() > LongestText) {
+    const QString wrong = text.size() > LongestText ? QString() : plain(text);
+    if (wrong.isEmpty()) {
         return {};
     }
     const qsizetype most = std::max<qsizetype>(1, wrong.size() / 3);
@@ -55,7 +163,7 @@ QString suggestion(const QString& text, const QStringList& known)
         if (candidate == text) {
             continue;
         }
-        const QString right = candidate.toCaseFolded();
+        const QString right = plain(candidate);
         qsizetype distance = std::numeric_limits<qsizetype>::max();
         if (std::abs(right.size() - wrong.size()) <= most) {
             distance = editDistance(wrong, right);
@@ -74,23 +182,37 @@ QString suggestion(const QString& text, const QStringList& known)
 QString didYouMean(const QString& text, const QStringList& known)
 {
     const QString meant = suggestion(text, known);
-    return meant.isEmpty() ? QString() : u" Did you mean "_s + quoted(meant) + u'?';
+    return meant.isEmpty() ? QString() : didYouMean(text, meant);
+}
+
+QString didYouMean(const QString& text, const QString& meant)
+{
+    const QString odd = oddLetter(text, meant);
+    return u" Did you mean "_s + quoted(meant) + u'?' + (odd.isEmpty() ? oddLetter(meant, text) : odd);
 }
 
 QString alternatives(const QStringList& names)
 {
-    QStringList others;
+    return names.size() == 1 ? listed(names) : listed(names.first(names.size() - 1)) + u" or "_s + quoted(names.last());
+}
+
+QString listed(const QStringList& names)
+{
+    QStringList all;
     for (const QString& name : names) {
-        others.append(quoted(name));
+        all.append(quoted(name));
     }
-    const QString last = others.takeLast();
-    return others.isEmpty() ? last : others.join(u", "_s) + u" or "_s + last;
+    return all.join(u", "_s);
 }
 
 QString quoted(const QString& text)
 {
-    const QString shown = text.size() > LongestQuotation ? text.first(LongestQuotation) + u'…' : text;
-    return u'"' + shown + u'"';
+    if (text.size() <= LongestQuotation) {
+        return u'"' + text + u'"';
+    }
+    // Not in the middle of a letter that takes two units.
+    const qsizetype size = text.at(LongestQuotation - 1).isHighSurrogate() ? LongestQuotation - 1 : LongestQuotation;
+    return u'"' + text.first(size) + u"…\""_s;
 }
 
 } // namespace cluiconfig::check

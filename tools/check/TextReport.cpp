@@ -48,11 +48,21 @@ QString counted(qsizetype count, const QString& what)
     return QString::number(count) + u' ' + what + (count == 1 ? QString() : u"s"_s);
 }
 
+/// The line of a finding, and a second one with a mark under the place.
+QString quotation(const Finding& finding, const Painter& paint)
+{
+    const auto shown = [](QString part) { return printable(part.replace(u'\t', u' ')); };
+    const QString number = QString::number(finding.line).rightJustified(5) + u" | "_s;
+    const QString before = shown(finding.before);
+    return number + before + shown(finding.after) + u'\n' + u"| "_s.rightJustified(number.size())
+        + QString(before.size(), u' ') + paint(Green, u"^"_s) + u'\n';
+}
+
 } // namespace
 
-QByteArray asText(const Report& report, bool isColored)
+QByteArray asText(const Report& report, const TextStyle& style)
 {
-    const Painter paint(isColored);
+    const Painter paint(style.isColored);
     const QString file = printable(report.file);
     QString text = paint(Bold, file) + u": "_s;
     text +=
@@ -64,6 +74,9 @@ QByteArray asText(const Report& report, bool isColored)
         text += paint(isError ? Red : Magenta, toString(finding.severity) + u':') + u' ' + printable(finding.message);
         const QString where = finding.pointer.isEmpty() ? QString() : u" at "_s + printable(finding.pointer);
         text += u" ["_s + describe(finding.rule).name + where + u"]\n"_s;
+        if (style.quotesLines && !(finding.before.isEmpty() && finding.after.isEmpty())) {
+            text += quotation(finding, paint);
+        }
     }
     if (!report.findings.isEmpty()) {
         const auto errors = std::count_if(report.findings.begin(), report.findings.end(),

@@ -97,7 +97,7 @@ void runCheck(const CheckOptions& options)
         const Report report = check::check(QString::fromStdString(document), chosen);
         code = std::max(code, exitCode(report, options.isStrict));
         if (options.format == "text") {
-            print(check::asText(report, colorDepth() != ColorDepth::None));
+            print(check::asText(report, {colorDepth() != ColorDepth::None, isTerminal(stdout)}));
         } else {
             reports.append(report);
         }
@@ -133,7 +133,7 @@ void addCheckCommand(CLI::App& program)
         "Then every finding: FILE:LINE:COLUMN: SEVERITY: MESSAGE [RULE at JSON-POINTER]. An error is what\n"
         "the application refuses, and the one that it stumbles over comes first; a warning is what it loads\n"
         "as something else than was written. After 200 findings of one rule the others are only counted.\n"
-        "Colours are used on a terminal unless NO_COLOR is set.\n"
+        "On a terminal, the line follows with a mark under the place; colours are used unless NO_COLOR is set.\n"
         "\n"
         "Exit code: 0 when nothing fails, 1 when a document is refused or a finding fails, 2 when a document\n"
         "could not be read or the arguments are wrong.\n"

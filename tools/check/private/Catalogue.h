@@ -31,11 +31,14 @@ public:
     QString unknownCategory(const QString& category, const QString& effect) const;
 
 private:
+    QString nameMeantBy(const QString& name) const;
+
     const cl::batterydata::ClConfigDataArrayManager& m_arrays;
     QStringList m_categories;
     QStringList m_names;
     QHash<QString, QStringList> m_namesByCategory;
     QHash<QString, QStringList> m_categoriesByName;
+    QHash<QString, QString> m_namesByMachineName;
 };
 
 } // namespace cluiconfig::check

@@ -29,11 +29,9 @@ public:
     const QByteArray& bytes() const { return m_bytes; }
     Value root() const;
 
-    /// Offsets of what Qt accepts although JSON does not allow it: raw control characters, unknown escapes, numbers
-    /// that end in a point.
+    /// Offsets of what Qt accepts although JSON does not allow it: raw control characters, unknown escapes, halves of
+    /// surrogate pairs, numbers such as "1." and ".5".
     const std::vector<qsizetype>& laxPlaces() const { return m_laxPlaces; }
-    /// Whether there were so many of them that the search for places was given up; the root then seems to be empty.
-    bool isGivenUp() const { return m_isGivenUp; }
 
     /// The earlier ones of repeated keys, in document order.
     std::vector<Value> shadowedKeys() const;
@@ -60,7 +58,6 @@ private:
     QJsonObject m_root;
     std::vector<Node> m_nodes;
     std::vector<qsizetype> m_laxPlaces;
-    bool m_isGivenUp = false;
 };
 
 /// A value of a document and its place: a small object, valid as long as the document lives.

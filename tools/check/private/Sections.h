@@ -11,6 +11,10 @@
 
 class AxesCombinationManager;
 
+namespace uiconfig {
+struct Configuration;
+}
+
 /// \file Sections.h
 /// What the check knows of the sections beyond their structure, a source file a section. Each function takes the value
 /// of its section, which has the section's type, and adds findings. What has the wrong type or is missing within it is
@@ -23,6 +27,7 @@ struct Context
 {
     const Catalogue& catalogue;
     const AxesCombinationManager& axes; ///< What the document's axes combinations yield.
+    const uiconfig::Configuration& configuration; ///< What its other sections say.
     Findings& findings;
 };
 
@@ -62,6 +67,9 @@ inline constexpr std::array SectionChecks{
 
 /// The columns \p names of a table, all of one category that the catalogue has.
 void checkColumns(const Value& names, const QString& category, const Context& with);
+
+/// An array of a plot, where a text that is not empty names one. \p effect is what happens without it.
+void checkArray(const Value& name, const QString& category, const QString& effect, const Context& with);
 
 /// The category and the arrays of a plot: those under \p axes make it what it is, those under \p others, names or lists
 /// of names, come on top.

@@ -13,9 +13,12 @@ namespace cluiconfig::check {
 
 QString wrongTypeMessage(const Value& value, const QJsonObject& schema, bool isRefused);
 QString missingKeyMessage(const QString& key, const QJsonObject& schema, bool isRefused);
-/// \p member of \p object, whose schema is \p schema.
-QString unknownKeyMessage(const Value& member, const QJsonObject& object, const QJsonObject& schema);
-QString unknownWordMessage(const Value& value, const QJsonObject& schema);
+/// The keys that \p object, whose schema is \p schema, lacks and that somebody who wrote \p key may have meant.
+QStringList keysMeantBy(const QString& key, const QJsonObject& object, const QJsonObject& schema);
+/// \p key of an object, with those that may be meant.
+QString unknownKeyMessage(const QString& key, const QStringList& meant, const QJsonObject& schema);
+/// \p word is a text or a key; \p schema is that of the words.
+QString unknownWordMessage(const QString& word, const QJsonObject& schema);
 QString emptyTextMessage(const Value& value, const QJsonObject& schema, bool isRefused);
 QString wrongLengthMessage(const Value& value, const QJsonObject& schema);
 QString outOfRangeMessage(const Value& value, const QJsonObject& schema);
