@@ -35,7 +35,7 @@ class Help(program.TestCase):
         return {f"-{name}" for name in re.findall(r"^\.It Fl (-[a-z-]+)", section, re.MULTILINE)}
 
     def test_there_are_commands_and_options_to_compare(self):
-        self.assertLessEqual({"show", "axes", "units", "diff", "format", "search"}, set(self.commands))
+        self.assertLessEqual({"show", "arrays", "axes", "units", "diff", "format", "search"}, set(self.commands))
         self.assertEqual(options_in(self.help), {"--version", "--catalogue"})
         self.assertEqual(options_in(self.output("format", "--help")), {"--check", "--in-place"})
 

@@ -10,6 +10,7 @@ namespace cluiconfig {
 constexpr int ExitRefused = 1; ///< The document is refused, or something in it fails.
 constexpr int ExitCannotRun = 2; ///< The command could not do its work: wrong arguments, an unreadable file.
 
+void addArraysCommand(CLI::App& program);
 void addAxesCommand(CLI::App& program);
 void addCheckCommand(CLI::App& program);
 void addDiffCommand(CLI::App& program);

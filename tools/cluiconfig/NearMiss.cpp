@@ -17,7 +17,9 @@ namespace {
 constexpr int MostSuggestions = 3;
 constexpr qsizetype LongestName = 256; // nobody abbreviates to more
 
-QStringList abbreviated(const QString& name, const QStringList& known)
+} // namespace
+
+QStringList abbreviated(const QString& name, const QStringList& known, int most)
 {
     if (name.size() > LongestName) {
         return {};
@@ -29,18 +31,16 @@ QStringList abbreviated(const QString& name, const QStringList& known)
     }
     QStringList names;
     for (const std::size_t index :
-         FuzzyFinder::search(name.toStdString(), candidates, MostSuggestions, std::make_unique<FtsStrategy>())) {
+         FuzzyFinder::search(name.toStdString(), candidates, most, std::make_unique<FtsStrategy>())) {
         names.append(known.at(static_cast<qsizetype>(index)));
     }
     return names;
 }
 
-} // namespace
-
 QString didYouMean(const QString& name, const QStringList& known)
 {
     const QString near = check::didYouMean(name, known);
-    const QStringList names = near.isEmpty() ? abbreviated(name, known) : QStringList();
+    const QStringList names = near.isEmpty() ? abbreviated(name, known, MostSuggestions) : QStringList();
     return names.isEmpty() ? near : u" Did you mean "_s + check::alternatives(names) + u'?';
 }
 

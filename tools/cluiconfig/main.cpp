@@ -65,10 +65,12 @@ int main(int argc, char* argv[])
   cluiconfig show                   what the shipped document gives
   cluiconfig check my.json          what is wrong with a document of your own, and what to write instead
   cluiconfig show my.json           what that document gives
+  cluiconfig arrays voltage         what the data arrays are called that have to do with voltages
   cluiconfig axes "Test Time / s"   what may be plotted over time
   cluiconfig diff old.json my.json  what a change does)");
     cluiconfig::addShowCommand(program);
     cluiconfig::addAxesCommand(program);
+    cluiconfig::addArraysCommand(program);
     cluiconfig::addUnitsCommand(program);
     cluiconfig::addDiffCommand(program);
     cluiconfig::addFormatCommand(program);
