@@ -10,7 +10,7 @@ const Ajv = require("ajv").default;
 
 const read = (path) => JSON.parse(readFileSync(path, "utf8"));
 const ajv = new Ajv({ strict: true, strictTypes: false, strictRequired: false });
-ajv.addVocabulary(["x-effect", "x-listed-by"]);
+ajv.addVocabulary(["x-effect", "x-listed-by", "x-names"]);
 const validate = ajv.compile(read(schemaPath));
 console.log(JSON.stringify(documents.map((path) =>
     validate(read(path)) || `${validate.errors[0].instancePath} ${validate.errors[0].message}`)));

@@ -79,7 +79,7 @@ _cluiconfig() {
         arrays) options="--category --format" ;;
         axes | units | diff) options="--format" ;;
         format) options="--check --in-place" ;;
-        schema) options="" ;;
+        schema) options="--names" ;;
         search) options="--strategy --max --scores" ;;
     esac
     if [[ $cur == -* || -z $command ]]; then
