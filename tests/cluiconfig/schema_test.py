@@ -139,7 +139,11 @@ class AgainstAjvWithNames(AgainstAjv):
                     "DEFAULT_SCALE_Y": "LINEAR", "ORTHONORMAL_AXIS": "FALSE"}
             curves = [{"Title": "1", "Category": category, "X": names[0], "Y": names[1], "Type": "Line"}
                       for category in categories]
-            document = {**program.shipped(), "Axes combinations": [axes], "Representations": [], "Processed Data": [],
+            graphs = [{"UITitle": "", "Param1": category, "Param2": names[0], "Param3": names[1]}
+                      for category in categories]
+            shipped = program.shipped()
+            document = {**shipped, "Axes combinations": [axes], "Representations": [], "Processed Data": [],
+                        "Recipe": {**shipped["Recipe"], "GraphCommand": graphs},
                         "Tools": {"Summary Table": {"Per step": {category: names for category in categories}}},
                         "Statistics": {"Graph": curves}, "Ragone Plot": {},
                         "dQ_dU": {"Table": names if "Potentiostat" in categories else [],

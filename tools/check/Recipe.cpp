@@ -43,12 +43,12 @@ std::vector<Value> parameters(const Value& entry)
     return places;
 }
 
-/// A category and arrays of it.
+/// A category, and arrays of it for X, Y1 and Y2.
 void checkGraph(const std::vector<Value>& given, const Context& with)
 {
     const QString effect = u"the entry adds no graph"_s;
     const QString category = given.empty() ? QString() : given.front().text();
-    if (given.empty()) {
+    if (category.isEmpty()) {
         return;
     }
     if (!with.catalogue.hasCategory(category)) {
@@ -56,7 +56,7 @@ void checkGraph(const std::vector<Value>& given, const Context& with)
                            [&] { return with.catalogue.unknownCategory(category, effect); });
         return;
     }
-    for (std::size_t i = 1; i < given.size(); ++i) {
+    for (std::size_t i = 1; i < std::min<std::size_t>(given.size(), 4); ++i) {
         checkArray(given[i], category, effect, with);
     }
 }
@@ -136,7 +136,9 @@ void checkRecipe(const Value& section, const Context& with)
         if (entries && entries->isArray()) {
             entries->forEach([&](const Value& entry) {
                 checkNumbers(entry, with.findings);
-                command.check(parameters(entry), with);
+                if (!entry.text(keys::Parameters.front()).isEmpty()) {
+                    command.check(parameters(entry), with);
+                }
             });
         }
     }

@@ -130,14 +130,10 @@ private:
     void nameMembers(QJsonObject& object, const QJsonObject& names)
     {
         QJsonObject properties = object.value(Properties).toObject();
-        const bool takesOthers = names.value("others"_L1).toBool();
         const auto members = [&](const QStringList& keys, const QString& definition) {
             QJsonObject schemas;
             for (const QString& key : keys) {
-                QJsonObject schema = reference(definition);
-                if (takesOthers) {
-                    schema = {{u"anyOf"_s, QJsonArray{schema, true}}};
-                }
+                const QJsonObject schema = reference(definition);
                 const bool isList = properties.value(key).toObject().value("type"_L1) == u"array"_s;
                 schemas.insert(key, isList ? QJsonObject{{Items, schema}} : schema);
             }
