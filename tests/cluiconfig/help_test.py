@@ -3,10 +3,12 @@
 usage: help_test.py PROGRAM SHIPPED_DOCUMENT"""
 
 import json
+import os
 import pathlib
 import re
 import shutil
 import subprocess
+import unittest
 
 import program
 
@@ -82,6 +84,13 @@ class Help(program.TestCase):
             self.skipTest("needs mandoc or groff")
         result = subprocess.run(command, capture_output=True, timeout=60)
         self.assertEqual((result.returncode, result.stderr), (0, b""))
+
+    @unittest.skipUnless(os.path.exists("/dev/full"), "needs /dev/full")
+    def test_help_and_version_that_cannot_be_written_are_an_error(self):
+        for arguments in (["--help"], ["--version"], ["show", "--help"]):
+            with open("/dev/full", "wb") as full:
+                result = subprocess.run([program.PROGRAM, *arguments], stdout=full, stderr=subprocess.PIPE, text=True)
+            self.assertEqual((result.returncode, result.stderr), (2, "standard output: No space left on device\n"))
 
     def test_version_names_library_and_document(self):
         version = re.search(r"project\(CLConfigUI VERSION ([0-9.]+)", (SOURCE / "CMakeLists.txt").read_text())[1]

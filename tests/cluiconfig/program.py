@@ -4,6 +4,7 @@ import json
 import os
 import pathlib
 import shutil
+import struct
 import subprocess
 import sys
 import tempfile
@@ -76,6 +77,29 @@ class TestCase(unittest.TestCase):
         result = self.run_program(*arguments, **options)
         self.assertEqual((result.returncode, result.stdout), (exit_code, ""))
         return result.stderr
+
+    def on_terminal(self, *arguments, columns=80, exit_code=0, environment=None):
+        """What a terminal gets, lines ending with a line feed."""
+        try:
+            controller, terminal = os.openpty()
+        except OSError as error:
+            self.skipTest(f"no pseudo terminal to be had here: {error}")
+        import fcntl
+        import termios
+        fcntl.ioctl(terminal, termios.TIOCSWINSZ, struct.pack("HHHH", 24, columns, 0, 0))
+        inherited = {name: value for name, value in os.environ.items() if name not in ("NO_COLOR", "COLUMNS")}
+        with os.fdopen(controller, "rb", buffering=0) as screen:
+            process = subprocess.Popen([PROGRAM, *arguments], stdout=terminal, stderr=terminal,
+                                       env={**inherited, "TERM": "xterm", **(environment or {})})
+            os.close(terminal)
+            output = b""
+            try:
+                while piece := screen.read(4096):
+                    output += piece
+            except OSError:  # how a terminal says that nobody writes to it any more
+                pass
+            self.assertEqual(process.wait(60), exit_code)
+        return output.decode().replace("\r\n", "\n")
 
     def completed(self, *words):
         """What bash offers for the last word, or None where there is no bash."""

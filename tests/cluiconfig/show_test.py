@@ -63,34 +63,18 @@ class Show(program.TestCase):
                          'There is no section "Colours". Did you mean "Colors"?\n')
         self.assertIn("The sections are: Axes combinations, ", self.message(2, "show", "--section", "0815"))
 
+    def palette(self, **environment):
+        return self.on_terminal("show", "--section", "Palette", environment=environment)
+
     @program.needs_posix("a pseudo terminal")
     def test_swatches_are_for_terminals_that_can_show_them(self):
         black, orange = "\x1b[48;2;0;0;0m      \x1b[0m", "\x1b[48;5;214m      \x1b[0m"
-        self.assertIn(f"Black           #000000  {black}\r\n", self.on_terminal(COLORTERM="truecolor"))
-        self.assertIn(f"Black           #000000  {black}\r\n", self.on_terminal(COLORTERM="24bit"))
-        self.assertIn(f"Orange          #e69f00  {orange}\r\n", self.on_terminal(COLORTERM=""))
+        self.assertIn(f"Black           #000000  {black}\n", self.palette(COLORTERM="truecolor"))
+        self.assertIn(f"Black           #000000  {black}\n", self.palette(COLORTERM="24bit"))
+        self.assertIn(f"Orange          #e69f00  {orange}\n", self.palette(COLORTERM=""))
         for without in ({"NO_COLOR": "1"}, {"TERM": "dumb"}):
-            self.assertNotIn("\x1b", self.on_terminal(COLORTERM="truecolor", **without))
+            self.assertNotIn("\x1b", self.palette(COLORTERM="truecolor", **without))
         self.assertNotIn("\x1b", self.output("show", "--section", "Palette"))
-
-    def on_terminal(self, **environment):
-        try:
-            controller, terminal = os.openpty()
-        except OSError as error:
-            self.skipTest(f"no pseudo terminal to be had here: {error}")
-        inherited = {name: value for name, value in os.environ.items() if name != "NO_COLOR"}
-        with os.fdopen(controller, "rb", buffering=0) as screen:
-            process = subprocess.Popen([program.PROGRAM, "show", "--section", "Palette"], stdout=terminal,
-                                       env={**inherited, "TERM": "xterm", **environment})
-            os.close(terminal)
-            output = b""
-            try:
-                while piece := screen.read(4096):
-                    output += piece
-            except OSError:  # how a terminal says that nobody writes to it any more
-                pass
-            self.assertEqual(process.wait(60), 0)
-        return output.decode()
 
     def test_document_that_cannot_be_opened_gives_exit_code_1(self):
         for path, reason in ((str(self.directory), "it is a directory"), (str(self.directory / "missing"), "")):

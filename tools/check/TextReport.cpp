@@ -1,5 +1,7 @@
 #include "Reports.h"
 
+#include "Text.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -12,20 +14,6 @@ constexpr auto Bold = "1"_L1;
 constexpr auto Red = "1;31"_L1;
 constexpr auto Green = "1;32"_L1;
 constexpr auto Magenta = "1;35"_L1;
-
-/// \p text without what a terminal would take for a command.
-QString printable(const QString& text)
-{
-    QString result;
-    for (const QChar c : text) {
-        if (c.category() == QChar::Other_Control) {
-            result += u"\\u%1"_s.arg(static_cast<uint>(c.unicode()), 4, 16, QChar(u'0'));
-        } else {
-            result += c;
-        }
-    }
-    return result;
-}
 
 class Painter
 {

@@ -120,9 +120,8 @@ Arrays arraysOf(const QString& category)
     const QStringList& known = catalogue.getCategories();
     if (!category.isEmpty() && !known.contains(category, Qt::CaseInsensitive)) {
         const QString near = didYouMean(category, known);
-        fail((u"There is no category \"%1\"."_s.arg(category)
-              + (near.isEmpty() ? u" The categories are: "_s + known.join(u", "_s) : near))
-                 .toStdString());
+        fail(u"There is no category \"%1\"."_s.arg(category)
+             + (near.isEmpty() ? u" The categories are: "_s + known.join(u", "_s) : near));
     }
     Arrays arrays;
     for (const ClConfigDataArray* array : catalogue.getAll()) {
@@ -177,8 +176,7 @@ Arrays nearTo(const QString& pattern, const Arrays& arrays)
         words << quantity.split(u' ');
     }
     const QString where = category.isEmpty() ? QString() : u" of the category \"%1\""_s.arg(category);
-    fail((u"No data array%1 has a name like \"%2\"."_s.arg(where, pattern) + didYouMean(pattern, names + words))
-             .toStdString(),
+    fail(u"No data array%1 has a name like \"%2\"."_s.arg(where, pattern) + didYouMean(pattern, names + words),
          ExitRefused);
 }
 
@@ -211,8 +209,8 @@ void arrays(const ArraysOptions& options)
     const Arrays found = containing(words, all);
     const bool isForPrograms = options.format.name == "json";
     if (!found.isEmpty() || words.isEmpty()) {
-        print(options.format(isForPrograms || found.isEmpty() ? QList{tableOf(u"Data arrays"_s, found, columns())}
-                                                              : byCategory(found)));
+        options.format.print(isForPrograms || found.isEmpty() ? QList{tableOf(u"Data arrays"_s, found, columns())}
+                                                              : byCategory(found));
         return;
     }
     const QString pattern = words.join(u' ');
@@ -220,10 +218,10 @@ void arrays(const ArraysOptions& options)
     if (near.isEmpty()) {
         failUnknown(pattern, all, category);
     }
-    print(options.format({isForPrograms
+    options.format.print({isForPrograms
                               ? tableOf(u"Near matches"_s, near, columns())
                               : tableOf(u"No name contains \"%1\"; those that come near, best first"_s.arg(pattern),
-                                        near, columns().first(ShownColumns))}));
+                                        near, columns().first(ShownColumns))});
 }
 
 } // namespace

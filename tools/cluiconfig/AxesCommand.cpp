@@ -58,7 +58,7 @@ Question questionFrom(const AxesOptions& options)
 
 [[noreturn]] void failUnknown(const QString& sentence, const QString& name, const QStringList& known)
 {
-    fail((sentence + didYouMean(name, known)).toStdString(), ExitRefused);
+    fail(sentence + didYouMean(name, known), ExitRefused);
 }
 
 QList<Table> xAxes(const AxesCombinationManager& manager)
@@ -123,10 +123,10 @@ void axes(const AxesOptions& options)
     const uiconfig::Configuration configuration = loadDocument(question.document);
     AxesCombinationManager manager;
     manager.appendAll(configuration.axesCombinations);
-    print(options.format(question.x.isEmpty() ? xAxes(manager)
+    options.format.print(question.x.isEmpty() ? xAxes(manager)
                              : question.y.isEmpty()
                              ? yAxes(manager, question.x)
-                             : pair(manager, configuration.representations, question.x, question.y)));
+                             : pair(manager, configuration.representations, question.x, question.y));
 }
 
 } // namespace

@@ -103,7 +103,7 @@ void runCheck(const CheckOptions& options)
         }
     }
     if (options.format != "text") {
-        print(options.format == "json" ? check::asJson(reports) : check::asSarif(reports));
+        printJson(options.format == "json" ? check::asJson(reports) : check::asSarif(reports));
     }
     if (code != 0) {
         throw CLI::RuntimeError(code);

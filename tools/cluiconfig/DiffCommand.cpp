@@ -28,7 +28,7 @@ QList<Table> shownTables(const QString& document)
     uiconfig::Configuration configuration;
     QString error;
     if (!readDocument(document, configuration, error)) {
-        fail(u"Cannot compare \"%1\": %2"_s.arg(document, error).toStdString());
+        fail(u"Cannot compare \"%1\": %2"_s.arg(document, error));
     }
     return documentTables(configuration);
 }
@@ -50,7 +50,11 @@ void diff(const DiffOptions& options)
             tables.append(toJson(before.at(i), found));
         }
     }
-    print(options.format == "json" ? QJsonDocument(tables).toJson() : texts.join(u'\n').toUtf8());
+    if (options.format == "json") {
+        printJson(QJsonDocument(tables).toJson());
+    } else {
+        print(texts.join(u'\n').toUtf8());
+    }
     if (!tables.isEmpty()) {
         throw CLI::RuntimeError(ExitRefused);
     }

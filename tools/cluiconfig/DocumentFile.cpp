@@ -22,9 +22,7 @@ void refusePipe(const QString& path)
 {
     const QFileInfo info(path);
     if (info.exists() && !info.isFile() && !info.isDir()) {
-        fail(QString(CannotOpen)
-                 .arg(path, u"it is a pipe or a device; save what it gives to a file first"_s)
-                 .toStdString());
+        fail(QString(CannotOpen).arg(path, u"it is a pipe or a device; save what it gives to a file first"_s));
     }
 }
 
@@ -34,11 +32,11 @@ void requireReadableFile(const QString& path)
 {
     refusePipe(path);
     if (QFileInfo(path).isDir()) {
-        fail(QString(CannotOpen).arg(path, u"it is a directory"_s).toStdString());
+        fail(QString(CannotOpen).arg(path, u"it is a directory"_s));
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        fail(QString(CannotOpen).arg(path, file.errorString()).toStdString());
+        fail(QString(CannotOpen).arg(path, file.errorString()));
     }
 }
 
@@ -61,7 +59,7 @@ uiconfig::Configuration loadDocument(const QString& path)
     uiconfig::Configuration configuration;
     QString error;
     if (!readDocument(path, configuration, error)) {
-        fail(error.toStdString(), ExitRefused);
+        fail(error, ExitRefused);
     }
     return configuration;
 }

@@ -60,7 +60,7 @@ QByteArray readAll(const QString& path)
         bytes = file.readAll();
     }
     if (file.error() != QFileDevice::NoError) {
-        fail(u"Cannot read \"%1\": %2"_s.arg(path, file.errorString()).toStdString());
+        fail(u"Cannot read \"%1\": %2"_s.arg(path, file.errorString()));
     }
     return bytes;
 }
@@ -78,7 +78,7 @@ void writeInPlace(const JsonLayout& layout, const QString& path)
     // that the rest in a buffer has no place on the disk.
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !layout.write(file) || !file.commit()) {
-        fail(u"Cannot write \"%1\", which stays as it is: %2"_s.arg(path, file.errorString()).toStdString());
+        fail(u"Cannot write \"%1\", which stays as it is: %2"_s.arg(path, file.errorString()));
     }
 }
 
@@ -97,12 +97,11 @@ void format(const FormatOptions& options)
     JsonLayout layout;
     QString error;
     if (!layout.read(text, error)) {
-        fail(u"\"%1\" is not valid JSON: %2"_s.arg(path, error).toStdString());
+        fail(u"\"%1\" is not valid JSON: %2"_s.arg(path, error));
     }
     if (options.check) {
         if (!hasLayout(layout, text)) {
-            fail(u"\"%1\" has another layout; \"cluiconfig format --in-place\" gives it the usual one"_s.arg(path)
-                     .toStdString(),
+            fail(u"\"%1\" has another layout; \"cluiconfig format --in-place\" gives it the usual one"_s.arg(path),
                  ExitRefused);
         }
     } else if (!options.inPlace) {

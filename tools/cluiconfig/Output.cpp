@@ -1,6 +1,8 @@
 #include "Output.h"
 
-#include <QtGlobal>
+#include <check/Text.h>
+
+#include <QStringList>
 
 #include <cerrno>
 #include <cstring>
@@ -12,6 +14,8 @@
 #include <csignal>
 #include <unistd.h>
 #endif
+
+using namespace Qt::StringLiterals;
 
 namespace cluiconfig {
 
@@ -55,21 +59,52 @@ bool isReaderGone(int error)
 #endif
 }
 
+void requireWritten(bool isWritten)
+{
+    if (!isWritten && !isReaderGone(errno)) {
+        fail(u"standard output: "_s + lastError());
+    }
+}
+
 } // namespace
 
 void print(const QByteArray& bytes)
 {
     useBytes();
-    const auto size = static_cast<std::size_t>(bytes.size());
-    const bool written = std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
-    if (!written && !isReaderGone(errno)) {
-        fail(std::string("standard output: ") + std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): one thread
+    if (std::ferror(stdout) == 0) { // otherwise its reader has gone
+        const auto size = static_cast<std::size_t>(bytes.size());
+        requireWritten(std::fwrite(bytes.constData(), 1, size, stdout) == size);
     }
 }
 
-void fail(const std::string& message, int exitCode)
+void printJson(const QByteArray& json)
 {
-    std::fprintf(stderr, "%s\n", message.c_str());
+    if (!isTerminal(stdout)) {
+        print(json);
+        return;
+    }
+    QStringList lines = QString::fromUtf8(json).split(u'\n');
+    for (QString& line : lines) {
+        line = check::printable(line);
+    }
+    print(lines.join(u'\n').toUtf8());
+}
+
+void printRest()
+{
+    if (std::ferror(stdout) == 0) { // otherwise that has been said
+        requireWritten(std::fflush(stdout) == 0);
+    }
+}
+
+QString lastError()
+{
+    return QString::fromLocal8Bit(std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): one thread
+}
+
+void fail(const QString& message, int exitCode)
+{
+    std::fprintf(stderr, "%s\n", check::printable(message).toUtf8().constData());
     throw CLI::RuntimeError(exitCode);
 }
 

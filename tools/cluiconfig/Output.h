@@ -3,9 +3,9 @@
 #include "Commands.h"
 
 #include <QByteArray>
+#include <QString>
 
 #include <cstdio>
-#include <string>
 
 namespace cluiconfig {
 
@@ -26,11 +26,21 @@ ColorDepth colorDepth();
 /// Bytes are bytes: no translation of line ends, and a reader that goes away is an error of writing, not a signal.
 void useBytes();
 
-/// Writes all of \p bytes to standard output. Ends the command with ExitCannotRun when that is not possible; a reader
-/// that has gone away is no error.
+/// Writes all of \p bytes to standard output, sooner or later. Ends the command with ExitCannotRun when that is not
+/// possible; a reader that has gone away is no error.
 void print(const QByteArray& bytes);
 
-/// Ends the command: \p message goes to standard error, \p exitCode to the caller of the program.
-[[noreturn]] void fail(const std::string& message, int exitCode = ExitCannotRun);
+/// The same with JSON, of which a terminal gets texts with everything escaped that cannot be seen.
+void printJson(const QByteArray& json);
+
+/// Writes what print() has left, at the end of the program; the same errors.
+void printRest();
+
+/// Why the last call of the C library failed.
+QString lastError();
+
+/// Ends the command: \p message goes to standard error as a line that can be seen, \p exitCode to the caller of the
+/// program.
+[[noreturn]] void fail(const QString& message, int exitCode = ExitCannotRun);
 
 } // namespace cluiconfig

@@ -1,6 +1,8 @@
 #include "Commands.h"
 #include "Output.h"
 
+#include <check/Text.h>
+
 #include <search/FtsStrategy.h>
 #include <search/TechniqueSearchStrategy.h>
 
@@ -8,14 +10,14 @@
 #include <QFile>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace cluiconfig {
 
@@ -44,7 +46,7 @@ QByteArray readStandardInput()
         found = static_cast<qsizetype>(std::fread(bytes.data() + size, 1, static_cast<std::size_t>(PieceSize), stdin));
     }
     if (std::ferror(stdin) != 0) {
-        fail(std::string("standard input: ") + std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): one thread
+        fail(u"standard input: "_s + lastError());
     }
     bytes.resize(size);
     return bytes;
@@ -58,7 +60,7 @@ QByteArray readFile(const std::string& path)
         bytes = file.readAll();
     }
     if (file.error() != QFileDevice::NoError) {
-        fail(path + ": " + file.errorString().toStdString());
+        fail(file.fileName() + u": "_s + file.errorString());
     }
     return bytes;
 }
@@ -69,7 +71,7 @@ QByteArray readInput(const SearchOptions& options)
 {
     if (options.file) {
         if (options.file->empty()) {
-            fail("the name of FILE is empty");
+            fail(u"the name of FILE is empty"_s);
         }
         return readFile(*options.file);
     }
@@ -100,13 +102,15 @@ void printBestFirst(const std::vector<FuzzyMatch>& matches, const std::vector<st
     if (options.maxResults >= 0) {
         count = std::min(count, static_cast<std::size_t>(options.maxResults));
     }
+    const bool isForPeople = isTerminal(stdout);
     QByteArray output;
     for (std::size_t i = 0; i < count; ++i) {
         if (options.scores) {
             output.append(QByteArray::number(matches[i].score)).append('\t');
         }
         const std::string_view line = lines[matches[i].index];
-        output.append(line.data(), static_cast<qsizetype>(line.size())).append('\n');
+        const QByteArrayView bytes(line.data(), static_cast<qsizetype>(line.size()));
+        output.append(isForPeople ? check::printable(QString::fromUtf8(bytes)).toUtf8() : bytes).append('\n');
     }
     print(output);
 }

@@ -40,9 +40,8 @@ QList<Table> chosen(const QList<Table>& tables, const QString& name)
     known.removeDuplicates();
     if (found.isEmpty()) {
         const QString near = didYouMean(name, known);
-        fail((u"There is no section \"%1\"."_s.arg(name)
-              + (near.isEmpty() ? u" The sections are: "_s + known.join(u", "_s) : near))
-                 .toStdString());
+        fail(u"There is no section \"%1\"."_s.arg(name)
+             + (near.isEmpty() ? u" The sections are: "_s + known.join(u", "_s) : near));
     }
     return found;
 }
@@ -69,14 +68,14 @@ Table sectionsTable()
 void show(const ShowOptions& options)
 {
     if (options.listsSections) {
-        print(options.format({sectionsTable()}));
+        options.format.print({sectionsTable()});
         return;
     }
     QList<Table> tables = documentTables(loadDocument(QString::fromStdString(options.document)));
     if (!options.section.empty()) {
         tables = chosen(tables, QString::fromStdString(options.section));
     }
-    print(options.format(tables));
+    options.format.print(tables);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "Table.h"
 
+#include <check/Text.h>
+
 #include <QColor>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -61,7 +63,7 @@ QList<QStringList> textRows(const Table& table)
     for (const auto& values : table.rows) {
         QStringList row;
         for (const QJsonValue& value : values) {
-            row.append(cellText(value));
+            row.append(check::printable(cellText(value)));
         }
         if (joined >= 0 && !rows.isEmpty()) {
             QStringList previous = rows.constLast();
@@ -99,7 +101,7 @@ QString toText(const Table& table, ColorDepth colors)
         }
     }
 
-    QString text = table.name + u" ("_s + QString::number(table.rows.size()) + u")\n"_s;
+    QString text = check::printable(table.name) + u" ("_s + QString::number(table.rows.size()) + u")\n"_s;
     if (table.rows.isEmpty()) {
         return text;
     }
@@ -131,7 +133,7 @@ void TableFormat::addTo(CLI::App& command)
         ->capture_default_str();
 }
 
-QByteArray TableFormat::operator()(const QList<Table>& tables) const
+void TableFormat::print(const QList<Table>& tables) const
 {
     if (name == "json") {
         // Row by row: a tree of all rows would take ten times the memory of its text.
@@ -140,13 +142,14 @@ QByteArray TableFormat::operator()(const QList<Table>& tables) const
             const QByteArray key = QJsonDocument(QJsonArray{table.name}).toJson(QJsonDocument::Compact);
             text += (text.isEmpty() ? "{\n    " : ",\n    ") + key.sliced(1, key.size() - 2) + ": " + toJson(table);
         }
-        return text + "\n}\n";
+        printJson(text + "\n}\n");
+        return;
     }
     QStringList texts;
     for (const Table& table : tables) {
         texts.append(toText(table, colorDepth()));
     }
-    return texts.join(u'\n').toUtf8();
+    cluiconfig::print(texts.join(u'\n').toUtf8());
 }
 
 } // namespace cluiconfig

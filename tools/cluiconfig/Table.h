@@ -43,14 +43,14 @@ QString toText(const Table& table, ColorDepth colors = ColorDepth::None);
 /// An array with one object a row, each on a line, the columns as keys.
 QByteArray toJson(const Table& table);
 
-/// The options of a command that prints tables, and what it prints: aligned text, an empty line between two tables, or
-/// one JSON object with an array a table.
+/// The options of a command that prints tables, and how it does: as aligned text, an empty line between two tables, or
+/// as one JSON object with an array a table.
 struct TableFormat
 {
     std::string name = "text";
 
     void addTo(CLI::App& command);
-    QByteArray operator()(const QList<Table>& tables) const;
+    void print(const QList<Table>& tables) const;
 };
 
 } // namespace cluiconfig

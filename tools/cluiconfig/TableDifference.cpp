@@ -1,5 +1,7 @@
 #include "TableDifference.h"
 
+#include <check/Text.h>
+
 #include <QHash>
 #include <QJsonArray>
 
@@ -141,7 +143,8 @@ QStringList contentColumns(const Table& table, const QJsonObject& row)
 /// `  + Name "Nyquist plot": X "Frequency / Hz"`, of which the first or the second part may be missing.
 QString line(QChar sign, const QString& row, const QString& content)
 {
-    return u"  "_s + sign + u' ' + row + (row.isEmpty() || content.isEmpty() ? u""_s : u": "_s) + content + u'\n';
+    const QString colon = row.isEmpty() || content.isEmpty() ? QString() : u": "_s;
+    return u"  "_s + sign + u' ' + check::printable(row + colon + content) + u'\n';
 }
 
 QJsonArray rowsOf(const Table& table)

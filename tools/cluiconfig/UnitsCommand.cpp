@@ -142,9 +142,8 @@ Table measuredIn(const UsualUnit& unit, PhysicalParameter parameter)
         }
     }
     const QString near = didYouMean(word, known);
-    fail((u"There is no physical parameter and no unit \"%1\"."_s.arg(word)
-          + (near.isEmpty() ? u" \"cluiconfig units\" lists the parameters."_s : near))
-             .toStdString());
+    fail(u"There is no physical parameter and no unit \"%1\"."_s.arg(word)
+         + (near.isEmpty() ? u" \"cluiconfig units\" lists the parameters."_s : near));
 }
 
 QList<Table> about(const QString& word)
@@ -158,14 +157,14 @@ QList<Table> about(const QString& word)
     }
     const PhysicalParameter parameter = Converter::getPhysicalParameterFromUnits(*unit);
     if (parameter == PhysicalParameter::None) {
-        fail((u"No physical parameter is measured in %1."_s.arg(Converter::toString(*unit))).toStdString());
+        fail(u"No physical parameter is measured in %1."_s.arg(Converter::toString(*unit)));
     }
     return {measuredIn(*unit, parameter), unitsOf(parameter)};
 }
 
 void units(const UnitsOptions& options)
 {
-    print(options.format(options.word.empty() ? parameters() : about(QString::fromStdString(options.word))));
+    options.format.print(options.word.empty() ? parameters() : about(QString::fromStdString(options.word)));
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -40,8 +41,31 @@ void useCatalogue(const std::string& path)
     QString error;
     cluiconfig::requireReadableFile(QString::fromStdString(path));
     if (!catalogue.readCatalogue(QString::fromStdString(path), error)) {
-        cluiconfig::fail(error.toStdString());
+        cluiconfig::fail(error);
     }
+}
+
+/// Prints the help or the version that somebody asked for; ends the program when the arguments are wrong.
+void answer(const CLI::App& program, const CLI::ParseError& stop)
+{
+    if (stop.get_exit_code() != 0) {
+        cluiconfig::fail(QString::fromUtf8(stop.what()) + u". Run with --help for more information."_s);
+    }
+    std::ostringstream text;
+    program.exit(stop, text);
+    cluiconfig::print(QByteArray::fromStdString(text.str()));
+}
+
+/// Runs \p work, and returns the exit code that it ends with.
+template <typename Work>
+int exitCodeOf(Work work)
+{
+    try {
+        work();
+    } catch (const CLI::RuntimeError& error) {
+        return error.get_exit_code();
+    }
+    return 0;
 }
 
 } // namespace
@@ -77,12 +101,14 @@ int main(int argc, char* argv[])
     cluiconfig::addSearchCommand(program);
     cluiconfig::addCheckCommand(program);
     cluiconfig::addSchemaCommand(program);
-    try {
-        program.parse(reversedArguments(argc, argv));
-    } catch (const CLI::RuntimeError& error) {
-        return error.get_exit_code();
-    } catch (const CLI::ParseError& error) {
-        return program.exit(error) == 0 ? 0 : cluiconfig::ExitCannotRun;
-    }
-    return 0;
+    const int code = exitCodeOf([&] {
+        try {
+            program.parse(reversedArguments(argc, argv));
+        } catch (const CLI::RuntimeError&) {
+            throw;
+        } catch (const CLI::ParseError& stop) {
+            answer(program, stop);
+        }
+    });
+    return std::max(code, exitCodeOf(cluiconfig::printRest));
 }
