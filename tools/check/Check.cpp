@@ -210,7 +210,9 @@ Report check(const QString& file, const Severities& severities)
 {
     const QFileInfo info(file);
     if (info.exists() && !info.isFile() && !info.isDir()) {
-        return unreadable(file, u"\"%1\" is no regular file: save the document in one"_s.arg(file));
+        return unreadable(
+            file,
+            u"\"%1\" is no regular file: save the document in one, or write \"-\" for standard input"_s.arg(file));
     }
     Report report;
     report.file = file;

@@ -30,30 +30,24 @@ struct AxesOptions
 /// What the words of the command line stand for.
 struct Question
 {
-    QString document = QString::fromLatin1(ShippedDocument);
+    std::string document;
     QString x;
     QString y;
 };
 
 /// A name of a data array neither ends in ".json" nor is there a file of that name.
-bool isDocument(const QString& word)
+bool isDocument(const std::string& argument)
 {
-    return word.endsWith(u".json"_s, Qt::CaseInsensitive) || QFileInfo::exists(word);
+    const QString word = QString::fromStdString(argument);
+    return isStandardInput(argument) || word.endsWith(u".json"_s, Qt::CaseInsensitive) || QFileInfo::exists(word);
 }
 
 Question questionFrom(const AxesOptions& options)
 {
-    QStringList words;
-    for (const std::string& word : {options.first, options.second, options.third}) {
-        words.append(QString::fromStdString(word));
+    if (!options.third.empty() || isDocument(options.first)) {
+        return {options.first, QString::fromStdString(options.second), QString::fromStdString(options.third)};
     }
-    Question question;
-    if (!words.at(2).isEmpty() || isDocument(words.at(0))) {
-        question.document = words.takeFirst();
-    }
-    question.x = words.at(0);
-    question.y = words.at(1);
-    return question;
+    return {ShippedDocument, QString::fromStdString(options.first), QString::fromStdString(options.second)};
 }
 
 [[noreturn]] void failUnknown(const QString& sentence, const QString& name, const QStringList& known)
@@ -136,9 +130,11 @@ void addAxesCommand(CLI::App& program)
     auto options = std::make_shared<AxesOptions>();
     CLI::App* command = program.add_subcommand(
         "axes", "What may be plotted against what: the X axes, the Y axes against one of them, or all about one pair.");
-    command->add_option("DOCUMENT", options->first,
-                        "The document; the shipped one when none is named. A first word is taken for a document when "
-                        "it ends in .json, when there is a file of that name, or when X and Y follow.");
+    command->add_option(
+        "DOCUMENT", options->first,
+        "The document; the shipped one when none is named. A first word is taken for a document when "
+        "it ends in .json or is \"-\", which is standard input, when there is a file of that name, or when "
+        "X and Y follow.");
     command->add_option("X", options->second, "The data array on the X axis: print the Y axes against it.");
     command->add_option("Y", options->third,
                         "The data array on the Y axis: print the combination, and the representations that use it. "

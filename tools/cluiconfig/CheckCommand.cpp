@@ -1,4 +1,5 @@
 #include "Commands.h"
+#include "InputFile.h"
 #include "Output.h"
 #include <check/Check.h>
 #include <check/Reports.h>
@@ -70,6 +71,18 @@ check::Severities severities(const std::vector<std::string>& arguments)
     return result;
 }
 
+/// What the check says of \p file, by its name.
+Report reportOn(const InputFile& file, const check::Severities& severities)
+{
+    Report report = check::check(file.path(), severities);
+    report.file = file.name();
+    report.verdict.error = file.named(report.verdict.error);
+    for (Finding& finding : report.findings) {
+        finding.message = file.named(finding.message);
+    }
+    return report;
+}
+
 int exitCode(const Report& report, bool isStrict)
 {
     if (!report.couldBeRead) {
@@ -94,7 +107,7 @@ void runCheck(const CheckOptions& options)
     int code = 0;
     QList<Report> reports;
     for (const std::string& document : options.documents) {
-        const Report report = check::check(QString::fromStdString(document), chosen);
+        const Report report = reportOn(InputFile(document), chosen);
         code = std::max(code, exitCode(report, options.isStrict));
         if (options.format == "text") {
             print(check::asText(report, {colorDepth() != ColorDepth::None, isTerminal(stdout)}));
@@ -119,7 +132,7 @@ void addCheckCommand(CLI::App& program)
                                                "Say whether the application loads a document, and everything in it "
                                                "that is refused, dropped, ignored or turned "
                                                "into something else, with its place.");
-    command->add_option("DOCUMENT", options->documents, "The documents to check.");
+    command->add_option("DOCUMENT", options->documents, "The documents to check; \"-\" is standard input.");
     command->add_option("--format", options->format, "Lines for people, or JSON or SARIF 2.1.0 for programs.")
         ->check(CLI::IsMember({"text", "json", "sarif"}))
         ->capture_default_str();

@@ -23,20 +23,20 @@ struct DiffOptions
     std::string format = "text";
 };
 
-QList<Table> shownTables(const QString& document)
+QList<Table> shownTables(const InputFile& document)
 {
     uiconfig::Configuration configuration;
     QString error;
     if (!readDocument(document, configuration, error)) {
-        fail(u"Cannot compare \"%1\": %2"_s.arg(document, error));
+        fail(u"Cannot compare \"%1\": %2"_s.arg(document.name(), error));
     }
     return documentTables(configuration);
 }
 
 void diff(const DiffOptions& options)
 {
-    const QString old = QString::fromStdString(options.before);
-    const QString changed = QString::fromStdString(options.after);
+    const InputFile old(options.before);
+    const InputFile changed(options.after);
     requireReadableFile(old);
     requireReadableFile(changed);
     const QList<Table> before = shownTables(old);
@@ -67,8 +67,8 @@ void addDiffCommand(CLI::App& program)
     auto options = std::make_shared<DiffOptions>();
     CLI::App* command = program.add_subcommand(
         "diff", "What a new document gives that an old one does not, and the other way round, whatever the text.");
-    command->add_option("OLD", options->before, "The document to compare with.")->required();
-    command->add_option("NEW", options->after, "The document that may differ.")->required();
+    command->add_option("OLD", options->before, "The document to compare with; \"-\" is standard input.")->required();
+    command->add_option("NEW", options->after, "The document that may differ; \"-\" is standard input.")->required();
     command->add_option("--format", options->format, "Lines for people, or JSON for programs.")
         ->check(CLI::IsMember({"text", "json"}))
         ->capture_default_str();
@@ -81,7 +81,7 @@ Nothing is printed when both give the same.
 
 Examples:
   cluiconfig diff old.json new.json
-  git show HEAD:UIConfig.json > old.json && cluiconfig diff old.json UIConfig.json
+  git show HEAD:UIConfig.json | cluiconfig diff - UIConfig.json
   cluiconfig diff old.json new.json --format json    an array with an object for each table that differs
 
 Exit code: 0 when both give the same, 1 when not, 2 when one cannot be read or would be refused.)");

@@ -15,36 +15,41 @@ namespace cluiconfig {
 
 namespace {
 
-constexpr auto CannotOpen = R"(Cannot open "%1": %2)"_L1;
+[[noreturn]] void failToOpen(const InputFile& file, const QString& reason)
+{
+    fail(u"Cannot open \"%1\": %2"_s.arg(file.name(), reason));
+}
 
 /// Reading a pipe may never end.
-void refusePipe(const QString& path)
+void refusePipe(const InputFile& file)
 {
-    const QFileInfo info(path);
+    const QFileInfo info(file.path());
     if (info.exists() && !info.isFile() && !info.isDir()) {
-        fail(QString(CannotOpen).arg(path, u"it is a pipe or a device; save what it gives to a file first"_s));
+        failToOpen(file,
+                   u"it is a pipe or a device; write \"-\" for standard input, or save what it gives to a file"_s);
     }
 }
 
 } // namespace
 
-void requireReadableFile(const QString& path)
+void requireReadableFile(const InputFile& file)
 {
-    refusePipe(path);
-    if (QFileInfo(path).isDir()) {
-        fail(QString(CannotOpen).arg(path, u"it is a directory"_s));
+    refusePipe(file);
+    if (QFileInfo(file.path()).isDir()) {
+        failToOpen(file, u"it is a directory"_s);
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        fail(QString(CannotOpen).arg(path, file.errorString()));
+    QFile opened(file.path());
+    if (!opened.open(QIODevice::ReadOnly)) {
+        failToOpen(file, opened.errorString());
     }
 }
 
-bool readDocument(const QString& path, uiconfig::Configuration& configuration, QString& error)
+bool readDocument(const InputFile& file, uiconfig::Configuration& configuration, QString& error)
 {
-    refusePipe(path);
+    refusePipe(file);
     QJsonObject root;
-    if (!cl::datastorage::JsonUtils::openJsonDocument(path, error, root)) {
+    if (!cl::datastorage::JsonUtils::openJsonDocument(file.path(), error, root)) {
+        error = file.named(error);
         return false;
     }
     uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
@@ -54,11 +59,11 @@ bool readDocument(const QString& path, uiconfig::Configuration& configuration, Q
     return refusals.isEmpty(error);
 }
 
-uiconfig::Configuration loadDocument(const QString& path)
+uiconfig::Configuration loadDocument(const std::string& argument)
 {
     uiconfig::Configuration configuration;
     QString error;
-    if (!readDocument(path, configuration, error)) {
+    if (!readDocument(InputFile(argument), configuration, error)) {
         fail(error, ExitRefused);
     }
     return configuration;

@@ -51,16 +51,16 @@ private:
     bool m_isEqual = true;
 };
 
-QByteArray readAll(const QString& path)
+QByteArray readAll(const InputFile& input)
 {
-    requireReadableFile(path);
-    QFile file(path);
+    requireReadableFile(input);
+    QFile file(input.path());
     QByteArray bytes;
     if (file.open(QIODevice::ReadOnly)) {
         bytes = file.readAll();
     }
     if (file.error() != QFileDevice::NoError) {
-        fail(u"Cannot read \"%1\": %2"_s.arg(path, file.errorString()));
+        fail(u"Cannot read \"%1\": %2"_s.arg(input.name(), file.errorString()));
     }
     return bytes;
 }
@@ -92,22 +92,29 @@ void writeToStandardOutput(const JsonLayout& layout)
 
 void format(const FormatOptions& options)
 {
-    const QString path = QString::fromStdString(options.document);
-    const QByteArray text = readAll(path);
+    const InputFile input(options.document);
+    if (options.inPlace && !input.isInPlace()) {
+        fail(isStandardInput(options.document)
+                 ? u"Standard input cannot be replaced: leave --in-place out to print its document."_s
+                 : u"Cannot replace \"%1\", whose name is no UTF-8: rename it, or leave --in-place out."_s.arg(
+                     input.name()));
+    }
+    const QByteArray text = readAll(input);
     JsonLayout layout;
     QString error;
     if (!layout.read(text, error)) {
-        fail(u"\"%1\" is not valid JSON: %2"_s.arg(path, error));
+        fail(u"\"%1\" is not valid JSON: %2"_s.arg(input.name(), error));
     }
     if (options.check) {
         if (!hasLayout(layout, text)) {
-            fail(u"\"%1\" has another layout; \"cluiconfig format --in-place\" gives it the usual one"_s.arg(path),
+            fail(u"\"%1\" has another layout; \"cluiconfig format --in-place\" gives it the usual one"_s.arg(
+                     input.name()),
                  ExitRefused);
         }
     } else if (!options.inPlace) {
         writeToStandardOutput(layout);
     } else if (!hasLayout(layout, text)) {
-        writeInPlace(layout, path);
+        writeInPlace(layout, input.path());
     }
 }
 
@@ -118,7 +125,8 @@ void addFormatCommand(CLI::App& program)
     auto options = std::make_shared<FormatOptions>();
     CLI::App* command = program.add_subcommand(
         "format", "Print a document in the one usual layout, or give it that layout. Only blanks change.");
-    command->add_option("DOCUMENT", options->document, "The document, or any other JSON file.")->required();
+    command->add_option("DOCUMENT", options->document, "The document, or any other JSON file; \"-\" is standard input.")
+        ->required();
     CLI::Option* check =
         command->add_flag("--check", options->check, "Print no document; exit code 1 when the layout is another one.");
     command

@@ -1,4 +1,5 @@
 #include "Commands.h"
+#include "InputFile.h"
 #include "Output.h"
 
 #include <check/Text.h>
@@ -36,31 +37,16 @@ struct SearchOptions
     bool scores = false;
 };
 
-QByteArray readStandardInput()
-{
-    constexpr qsizetype PieceSize = qsizetype{1} << 20;
-    QByteArray bytes;
-    qsizetype size = 0;
-    for (qsizetype found = PieceSize; found == PieceSize; size += found) {
-        bytes.resize(size + PieceSize);
-        found = static_cast<qsizetype>(std::fread(bytes.data() + size, 1, static_cast<std::size_t>(PieceSize), stdin));
-    }
-    if (std::ferror(stdin) != 0) {
-        fail(u"standard input: "_s + lastError());
-    }
-    bytes.resize(size);
-    return bytes;
-}
-
 QByteArray readFile(const std::string& path)
 {
-    QFile file(QString::fromStdString(path));
+    const InputFile input(path);
+    QFile file(input.path());
     QByteArray bytes;
     if (file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         bytes = file.readAll();
     }
     if (file.error() != QFileDevice::NoError) {
-        fail(file.fileName() + u": "_s + file.errorString());
+        fail(input.name() + u": "_s + file.errorString());
     }
     return bytes;
 }
@@ -69,13 +55,14 @@ QByteArray readFile(const std::string& path)
 /// list.
 QByteArray readInput(const SearchOptions& options)
 {
-    if (options.file) {
-        if (options.file->empty()) {
-            fail(u"the name of FILE is empty"_s);
-        }
-        return readFile(*options.file);
+    if (options.file ? isStandardInput(*options.file) : !isTerminal(stdin)) {
+        return readStandardInput();
     }
-    return isTerminal(stdin) ? readFile(TechniqueList) : readStandardInput();
+    const std::string path = options.file.value_or(TechniqueList);
+    if (path.empty()) {
+        fail(u"the name of FILE is empty"_s);
+    }
+    return readFile(path);
 }
 
 /// A line ends with a line feed, which a carriage return may precede; the last one may lack it.
@@ -128,7 +115,6 @@ int wholeNumber(const std::string& option, const std::string& text)
 
 void search(const SearchOptions& options)
 {
-    useBytes();
     const QByteArray bytes = readInput(options);
     const std::vector<std::string_view> lines = splitLines({bytes.constData(), static_cast<std::size_t>(bytes.size())});
     printBestFirst(options.strategy == TextStrategy ? FtsStrategy::rank(options.query, lines)
@@ -146,7 +132,8 @@ void addSearchCommand(CLI::App& program)
                                                "application's search boxes do.");
     command->add_option("QUERY", options->query, "The letters to look for, in their order.")->required();
     command->add_option("FILE", options->file,
-                        "The file whose lines are searched. Without it, standard input is; from a terminal, a list of "
+                        "The file whose lines are searched, \"-\" for standard input. Without it, standard input is; "
+                        "from a terminal, a list of "
                         "electrochemical techniques.");
     command->add_option("--strategy", options->strategy, "How lines are scored: as technique names, or as other texts.")
         ->check(CLI::IsMember({TechniqueStrategy, TextStrategy}))

@@ -71,7 +71,7 @@ void show(const ShowOptions& options)
         options.format.print({sectionsTable()});
         return;
     }
-    QList<Table> tables = documentTables(loadDocument(QString::fromStdString(options.document)));
+    QList<Table> tables = documentTables(loadDocument(options.document));
     if (!options.section.empty()) {
         tables = chosen(tables, QString::fromStdString(options.section));
     }
@@ -85,7 +85,9 @@ void addShowCommand(CLI::App& program)
     auto options = std::make_shared<ShowOptions>();
     CLI::App* command = program.add_subcommand(
         "show", "Load a document as the application does and print, section by section, what it gives.");
-    command->add_option("DOCUMENT", options->document, "The document; the shipped one when none is named.")
+    command
+        ->add_option("DOCUMENT", options->document,
+                     "The document, \"-\" for standard input; the shipped one when none is named.")
         ->default_str("the shipped document");
     command->add_option("--section", options->section,
                         "Print one section only: its key in the document, or the heading of one of its tables.");

@@ -39,9 +39,10 @@ void useCatalogue(const std::string& path)
 {
     auto& catalogue = lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
     QString error;
-    cluiconfig::requireReadableFile(QString::fromStdString(path));
-    if (!catalogue.readCatalogue(QString::fromStdString(path), error)) {
-        cluiconfig::fail(error);
+    const cluiconfig::InputFile file(path);
+    cluiconfig::requireReadableFile(file);
+    if (!catalogue.readCatalogue(file.path(), error)) {
+        cluiconfig::fail(file.named(error));
     }
 }
 
