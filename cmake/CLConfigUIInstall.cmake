@@ -23,7 +23,9 @@ install(FILES
     ${PROJECT_SOURCE_DIR}/data/UIConfig.json
     ${PROJECT_SOURCE_DIR}/data/UIConfig.schema.json
     ${PROJECT_SOURCE_DIR}/data/DataArrays.json
+    ${PROJECT_SOURCE_DIR}/data/DataArrays.schema.json
     DESTINATION ${CMAKE_INSTALL_DATADIR}/CLConfigUI)
+install(FILES ${PROJECT_SOURCE_DIR}/docs/catalogue.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/CLConfigUIConfig.cmake.in
     ${PROJECT_BINARY_DIR}/CLConfigUIConfig.cmake INSTALL_DESTINATION ${_package_dir})

@@ -57,7 +57,7 @@ public:
     /// Deletes all arrays.
     void clear();
 
-    /// Replaces the arrays by those of the catalogue file \p path (data/README.md describes its form); true on success.
+    /// Replaces the arrays by those of the catalogue file \p path (docs/catalogue.md has its form); true on success.
     /// Of arrays that repeat a name in one category the first counts. On failure the catalogue stays as it was, and
     /// \p error names the path and what is wrong: line and column of what is no JSON, the JSON pointer of a bad entry.
     bool readCatalogue(const QString& path, QString& error);

@@ -290,6 +290,18 @@ TEST(DocumentSchema, ListsTheElementsOfTheShippedDocument)
     EXPECT_EQ(names, colors.keys());
 }
 
+TEST(CatalogueSchema, ListsTheQuantitiesOfTheConverter)
+{
+    const QJsonObject array = QJsonDocument::fromJson(catalogueSchema())
+                                  .object()
+                                  .value("definitions"_L1)
+                                  .toObject()
+                                  .value("array"_L1)
+                                  .toObject();
+    EXPECT_EQ(words(array.value("properties"_L1).toObject().value("Parameter"_L1).toObject().value("enum"_L1)),
+              QStringList(Converter::getPhysicalParameterNames()));
+}
+
 TEST(DocumentSchema, ListsTheQuantitiesAndOperatorsOfTheConverter)
 {
     const QJsonObject definitions =

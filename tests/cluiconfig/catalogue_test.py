@@ -1,7 +1,14 @@
 #!/usr/bin/env python3
-"""Runs cluiconfig with a catalogue of data arrays of one's own. usage: catalogue_test.py PROGRAM SHIPPED_DOCUMENT"""
+"""Runs cluiconfig with a catalogue of data arrays of one's own, and does what docs/catalogue.md says.
+usage: catalogue_test.py PROGRAM SHIPPED_DOCUMENT"""
+
+import json
+import pathlib
+import re
 
 import program
+
+PAGE = pathlib.Path(__file__).resolve().parents[2] / "docs" / "catalogue.md"
 
 
 class Catalogue(program.TestCase):
@@ -38,6 +45,40 @@ class Catalogue(program.TestCase):
             message = self.message(2, "--catalogue", path, "show")
             self.assertIn(path, message)
             self.assertIn(reason, message)
+
+
+class Page(program.TestCase):
+    def setUp(self):
+        super().setUp()
+        self.page = PAGE.read_text(encoding="utf-8")
+
+    def test_its_commands_lead_from_the_shipped_catalogue_to_a_checked_document(self):
+        self.assertEqual(re.findall(r"^\$ cluiconfig ([^#]*?)\s+#", self.page, re.MULTILINE),
+                         ["catalogue > site.json", "check --catalogue site.json UIConfig.json"])
+        text = self.output("catalogue")
+        self.assertEqual(text, (program.SHIPPED.parent / "DataArrays.json").read_text(encoding="utf-8"))
+        site = self.file("site.json", text)
+        self.assertEqual(self.output("check", "--catalogue", site, str(program.SHIPPED)), f"{program.SHIPPED}: loads\n")
+
+    def test_it_describes_the_keys_that_the_schema_has(self):
+        rows = self.page.split("| Key of an array |")[1].split("\n\n")[0].split("\n")[2:]
+        schema = json.loads(self.output("schema", "catalogue"))
+        self.assertEqual([row.split(" | ")[0].strip("| ") for row in rows],
+                         list(schema["definitions"]["array"]["properties"]))
+
+    def test_its_example_is_a_catalogue(self):
+        example = self.file("example.json", self.page.split("```json\n")[1].split("```")[0])
+        self.output("--catalogue", example, "units")
+
+
+class Schema(program.TestCase):
+    def test_prints_the_schema_that_is_installed(self):
+        installed = program.SHIPPED.parent / "DataArrays.schema.json"
+        self.assertEqual(self.output("schema", "catalogue"), installed.read_text(encoding="utf-8"))
+        self.assertEqual(self.output("schema", "document"), self.output("schema"))
+
+    def test_there_is_none_of_anything_else(self):
+        self.assertIn("document,catalogue", self.message(2, "schema", "recipe"))
 
 
 if __name__ == "__main__":

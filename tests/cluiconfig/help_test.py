@@ -37,7 +37,7 @@ class Help(program.TestCase):
         return {f"-{name}" for name in re.findall(r"^\.It Fl (-[a-z-]+)", section, re.MULTILINE)}
 
     def test_there_are_commands_and_options_to_compare(self):
-        self.assertLessEqual({"show", "arrays", "axes", "units", "diff", "format", "search"}, set(self.commands))
+        self.assertLessEqual({"show", "arrays", "axes", "units", "diff", "format", "search", "catalogue"}, set(self.commands))
         self.assertEqual(options_in(self.help), {"--version", "--catalogue"})
         self.assertEqual(options_in(self.output("format", "--help")), {"--check", "--in-place"})
 
@@ -69,6 +69,7 @@ class Help(program.TestCase):
             if formats:
                 self.assertEqual(set(self.completed(command, "--format", "")), set(formats[1].split(",")), command)
         self.assertEqual(self.completed("search", "--strategy", "te"), ["technique", "text"])
+        self.assertEqual(self.completed("schema", ""), ["document", "catalogue"])
 
     def test_completion_offers_files(self):
         path = self.file("my.json", "{}")

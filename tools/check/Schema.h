@@ -4,7 +4,8 @@
 
 namespace cluiconfig::check {
 
-/// The JSON Schema of the document, as it is installed.
+/// The JSON Schemas of the document and of the catalogue, as they are installed.
 QByteArray documentSchema();
+QByteArray catalogueSchema();
 
 } // namespace cluiconfig::check

@@ -57,6 +57,12 @@ struct CompiledSchema
     valijson::Schema schema;
 };
 
+QByteArray resource(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 struct Validation
 {
     using Properties = QHash<QString, const Subschema*>;
@@ -263,8 +269,12 @@ private:
 
 QByteArray documentSchema()
 {
-    QFile file(u":/cluiconfig/UIConfig.schema.json"_s);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return resource(u":/cluiconfig/UIConfig.schema.json"_s);
+}
+
+QByteArray catalogueSchema()
+{
+    return resource(u":/cluiconfig/DataArrays.schema.json"_s);
 }
 
 void checkStructure(const Value& root, Findings& findings)

@@ -12,6 +12,7 @@ constexpr int ExitCannotRun = 2; ///< The command could not do its work: wrong a
 
 void addArraysCommand(CLI::App& program);
 void addAxesCommand(CLI::App& program);
+void addCatalogueCommand(CLI::App& program);
 void addCheckCommand(CLI::App& program);
 void addDiffCommand(CLI::App& program);
 void addFormatCommand(CLI::App& program);

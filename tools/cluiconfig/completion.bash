@@ -32,7 +32,7 @@ _cluiconfig_arrays() {
 _cluiconfig() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]}
     local everywhere="--help -h --version --catalogue"
-    local commands="check show arrays axes units diff format schema search"
+    local commands="check show arrays axes units diff format schema catalogue search"
     local command="" i
     for ((i = 1; i < COMP_CWORD; ++i)); do
         if [[ " $commands " == *" ${COMP_WORDS[i]} "* && ${COMP_WORDS[i - 1]} != --catalogue ]]; then
@@ -80,6 +80,7 @@ _cluiconfig() {
         axes | units | diff) options="--format" ;;
         format) options="--check --in-place" ;;
         schema) options="--names" ;;
+        catalogue) options="" ;;
         search) options="--strategy --max --scores" ;;
     esac
     if [[ $cur == -* || -z $command ]]; then
@@ -87,6 +88,9 @@ _cluiconfig() {
     else
         case $command in
             arrays) _cluiconfig_arrays Name "$cur" ;;
+            schema)
+                mapfile -t COMPREPLY < <(compgen -W "document catalogue" -- "$cur")
+                ;;
             check | show | axes | diff | format | search)
                 mapfile -t COMPREPLY < <(compgen -f -- "$cur")
                 compopt -o filenames 2>/dev/null

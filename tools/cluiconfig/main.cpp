@@ -84,8 +84,8 @@ int main(int argc, char* argv[])
     program.set_version_flag("--version", "cluiconfig " CLCONFIGUI_VERSION ", UIConfig.json format version 29");
     program.fallthrough();
     program.add_option_function<std::string>("--catalogue", useCatalogue,
-                                             "The catalogue of data arrays to go by, a file in the form of "
-                                             "data/DataArrays.json; the shipped one when none is named.");
+                                             "The catalogue of data arrays to go by instead of the shipped one, which "
+                                             "`cluiconfig catalogue` prints: a file in the same form.");
     program.footer(R"(cluiconfig COMMAND --help tells more, with examples. To begin with:
   cluiconfig show                   what the shipped document gives
   cluiconfig check my.json          what is wrong with a document of your own, and what to write instead
@@ -101,6 +101,7 @@ int main(int argc, char* argv[])
     cluiconfig::addFormatCommand(program);
     cluiconfig::addSearchCommand(program);
     cluiconfig::addCheckCommand(program);
+    cluiconfig::addCatalogueCommand(program);
     cluiconfig::addSchemaCommand(program);
     const int code = exitCodeOf([&] {
         try {
