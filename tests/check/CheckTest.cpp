@@ -1,3 +1,4 @@
+#include <batterydata/RawDataCollection.h>
 #include <check/Check.h>
 #include <check/Schema.h>
 #include <check/Suggest.h>
@@ -6,6 +7,7 @@
 #include <config/UIConfig.h>
 #include <datastorage/Converter.h>
 #include <support/ConfigDocument.h>
+#include <support/DocumentFile.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 
@@ -184,6 +186,30 @@ TEST(Check, DocumentsAreReadSideBySideWithoutTheProcessWideConfiguration)
     EXPECT_EQ(config.getStatsGraph().size(), before);
 }
 
+TEST(Check, CatalogueOfTheCheckIsNotThatOfTheProcess)
+{
+    const ConfigDocumentCatalogue catalogue;
+    const auto& arrays = lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
+    const auto before = arrays.getAll();
+    const QByteArray bytes = R"({ "Version": 1, "Categories": [{ "Name": "Bench", "Arrays": [{ "Name": "A" }] }] })";
+    const DocumentFile file(bytes);
+    const Result result = checkCatalogue(file.path(), bytes, QJsonDocument::fromJson(bytes).object());
+    EXPECT_TRUE(result.verdict.loads);
+    EXPECT_TRUE(result.findings.isEmpty());
+    EXPECT_EQ(arrays.getAll(), before);
+}
+
+TEST(Check, RefusalOfACatalogueThatNoRuleExplainsHasTheSentenceOfTheReader)
+{
+    uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
+    refusals.goOnAfter(u"Something is wrong"_s, u"/Somewhere"_s);
+    Findings findings(refusals, Subject::Catalogue);
+    findings.addUnexplained();
+    ASSERT_EQ(findings.list().size(), 1);
+    EXPECT_EQ(findings.list().constFirst().rule, Rule::Refused);
+    EXPECT_EQ(findings.list().constFirst().message, u"The application refuses the catalogue: Something is wrong."_s);
+}
+
 TEST(Check, AfterTwoHundredFindingsOfARuleTheOthersAreCounted)
 {
     const ConfigDocumentCatalogue catalogue;
@@ -320,5 +346,5 @@ TEST(CheckRules, StandInTheOrderOfTheirNumbersWithNamesOfTheirOwn)
         names.insert(rules().at(i).name);
     }
     EXPECT_EQ(names.size(), rules().size());
-    EXPECT_EQ(rules().last().rule, Rule::FormulaGroup);
+    EXPECT_EQ(rules().last().rule, Rule::EmptyCatalogue);
 }

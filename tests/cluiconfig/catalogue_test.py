@@ -54,10 +54,12 @@ class Page(program.TestCase):
 
     def test_its_commands_lead_from_the_shipped_catalogue_to_a_checked_document(self):
         self.assertEqual(re.findall(r"^\$ cluiconfig ([^#]*?)\s+#", self.page, re.MULTILINE),
-                         ["catalogue > site.json", "check --catalogue site.json UIConfig.json"])
+                         ["catalogue > site.json", "check-catalogue site.json",
+                          "check --catalogue site.json UIConfig.json"])
         text = self.output("catalogue")
         self.assertEqual(text, (program.SHIPPED.parent / "DataArrays.json").read_text(encoding="utf-8"))
         site = self.file("site.json", text)
+        self.assertEqual(self.output("check-catalogue", site), f"{site}: loads\n")
         self.assertEqual(self.output("check", "--catalogue", site, str(program.SHIPPED)), f"{program.SHIPPED}: loads\n")
 
     def test_it_describes_the_keys_that_the_schema_has(self):
@@ -68,7 +70,7 @@ class Page(program.TestCase):
 
     def test_its_example_is_a_catalogue(self):
         example = self.file("example.json", self.page.split("```json\n")[1].split("```")[0])
-        self.output("--catalogue", example, "units")
+        self.assertEqual(self.output("check-catalogue", "--strict", example), f"{example}: loads\n")
 
 
 class Schema(program.TestCase):

@@ -18,9 +18,14 @@ import program
 EXAMPLES = DOCS = pathlib.Path()
 
 
-def examples():
+def examples(directory=None):
     return {path.stem: json.loads(path.read_text(encoding="utf-8"))
-            for path in sorted(EXAMPLES.glob("*.json")) if path.stem != "valid"}
+            for path in sorted((directory or EXAMPLES).glob("*.json")) if path.stem != "valid"}
+
+
+def all_examples():
+    """Those of documents and those of catalogues, which stand side by side."""
+    return [*examples(EXAMPLES.parent / "examples").values(), *examples(EXAMPLES.parent / "catalogues").values()]
 
 
 def changed(example):
@@ -34,7 +39,7 @@ def rules():
     return [(line[:24].strip(), line[24:42].strip(), line[42:]) for line in lines]
 
 
-def table():
+def table(needs_example=False):
     """The table of rules in the documentation: a row an example, the rules in the program's order."""
     cell = lambda text: text.replace("|", "\\|").replace("\n", " ").strip()
     lines = ["| Rule | Severity | Mistake | Message |", "|---|---|---|---|"]
@@ -50,29 +55,28 @@ def table():
             change = "`%s` → `%s`" % (cell(example["replace"]), cell(example["by"])) if cell(example["by"]) \
                 else "`%s` removed" % cell(example["replace"])
             lines.append("| `%s` | %s | %s | %s |" % (name, finding["severity"], change, message))
-        if not own:
+        if not own and not needs_example:
             lines.append("| `%s` | %s | | %s |" % (name, severities, cell(meaning)))
     return "\n".join(lines) + "\n"
 
 
 class InDirectory(program.TestCase):
-    def document(self, text, name="document.json"):
+    COMMAND, FILE = "check", "document.json"
+
+    def document(self, text, name=None):
         """Makes a document of a text, and returns its name in the directory in which check() runs the program."""
-        self.file(name, text)
-        return name
+        self.file(name or self.FILE, text)
+        return name or self.FILE
 
     def check(self, *arguments, **options):
-        return self.run_program("check", *arguments, cwd=self.directory, **options)
+        return self.run_program(self.COMMAND, *arguments, cwd=self.directory, **options)
 
     def findings(self, name, *arguments):
         return json.loads(self.check("--format", "json", name, *arguments).stdout)[0]["findings"]
 
 
-class Rules(InDirectory):
-    def test_documents_without_mistakes_get_nothing_but_the_verdict(self):
-        for path in (program.SHIPPED, EXAMPLES / "valid.json"):
-            result = self.run_program("check", "--strict", str(path))
-            self.assertEqual((result.returncode, result.stdout, result.stderr), (0, f"{path}: loads\n", ""))
+class Examples(InDirectory):
+    """Runs the examples of EXAMPLES; for documents here, for catalogues elsewhere."""
 
     def test_examples_have_exactly_the_findings_that_stand_with_them(self):
         for name, example in examples().items():
@@ -85,14 +89,30 @@ class Rules(InDirectory):
                                    "findings": example["findings"]}])
                 self.assertEqual(result.returncode, 0 if example["error"] is None else 1)
 
-    def test_every_rule_has_an_example_unless_no_document_can_break_it(self):
-        shown = {finding["rule"] for example in examples().values() for finding in example["findings"]}
+
+class Rules(InDirectory):
+    def test_a_catalogue_is_told_from_a_document(self):
+        path = str(program.SHIPPED.parent / "DataArrays.json")
+        report = json.loads(self.check("--format", "json", path).stdout)[0]
+        self.assertEqual(report["error"], "The format version is 1: expected 29")
+        self.assertEqual([(finding["rule"], finding["severity"], finding["line"], finding["message"])
+                          for finding in report["findings"]],
+                         [("wrong-kind", "error", 1, "This is a catalogue of data arrays, not a UIConfig.json: the application "
+                           "refuses the document. `cluiconfig check-catalogue` checks it.")])
+
+    def test_documents_without_mistakes_get_nothing_but_the_verdict(self):
+        for path in (program.SHIPPED, EXAMPLES / "valid.json"):
+            result = self.run_program("check", "--strict", str(path))
+            self.assertEqual((result.returncode, result.stdout, result.stderr), (0, f"{path}: loads\n", ""))
+
+    def test_every_rule_has_an_example_unless_nothing_can_break_it(self):
+        shown = {finding["rule"] for example in all_examples() for finding in example["findings"]}
         self.assertEqual([name for name, _, _ in rules() if name not in shown], ["unreadable", "refused"])
 
     def test_severities_of_the_examples_are_those_of_the_rules(self):
         allowed = {name: severities.split(" or ") for name, severities, _ in rules()}
         shown = {name: set() for name in allowed}
-        for example in examples().values():
+        for example in all_examples():
             for finding in example["findings"]:
                 shown[finding["rule"]].add(finding["severity"])
         for name in allowed:
@@ -163,7 +183,7 @@ class Output(InDirectory):
 
     @program.needs_posix("a pseudo terminal")
     def test_a_terminal_shows_the_line_with_a_mark_under_the_place(self):
-        lines = self.terminal(NO_COLOR="1").decode().splitlines()
+        lines = self.terminal(NO_COLOR="1").splitlines()
         finding = examples()["wrong-length"]["findings"][0]
         number, quoted = lines[2].split(" | ")
         self.assertEqual(int(number), finding["line"])
@@ -174,7 +194,7 @@ class Output(InDirectory):
     @program.needs_posix("a pseudo terminal")
     def test_a_terminal_shows_the_part_of_a_long_line_that_matters(self):
         text = json.dumps(dict(program.shipped(), Version=28))
-        lines = self.terminal(text, NO_COLOR="1").decode().splitlines()
+        lines = self.terminal(text, NO_COLOR="1").splitlines()
         self.assertLess(len(lines[2]), 120)
         self.assertTrue(lines[2][lines[3].index("^"):].startswith("28"), lines)
 
@@ -303,13 +323,19 @@ class Schema(program.TestCase):
         self.assertEqual(self.output("schema"), installed.read_text(encoding="utf-8"))
 
 
-if __name__ == "__main__":
+def main(needs_example=False):
+    """Does what the arguments of the calling script say."""
+    global EXAMPLES, DOCS
     print_table = sys.argv[1] == "--table"
     if print_table:
         del sys.argv[1]
     examples_directory, docs, *names = program.take_arguments()
     EXAMPLES, DOCS = pathlib.Path(examples_directory).resolve(), pathlib.Path(docs).resolve()
     if print_table:
-        print(table(), end="")
+        print(table(needs_example), end="")
     else:
         program.run_tests(names)
+
+
+if __name__ == "__main__":
+    main()

@@ -27,7 +27,7 @@ class Help(program.TestCase):
     def setUp(self):
         super().setUp()
         self.help = self.output("--help")
-        self.commands = re.findall(r"^  ([a-z]+) ", self.help.split("Subcommands:")[1].split("\n\n")[0], re.MULTILINE)
+        self.commands = re.findall(r"^  ([a-z-]+) ", self.help.split("Subcommands:")[1].split("\n\n")[0], re.MULTILINE)
         self.manual = MANUAL.read_text(encoding="utf-8")
 
     def manual_of(self, command):
@@ -37,7 +37,8 @@ class Help(program.TestCase):
         return {f"-{name}" for name in re.findall(r"^\.It Fl (-[a-z-]+)", section, re.MULTILINE)}
 
     def test_there_are_commands_and_options_to_compare(self):
-        self.assertLessEqual({"show", "arrays", "axes", "units", "diff", "format", "search", "catalogue"}, set(self.commands))
+        self.assertLessEqual({"show", "arrays", "axes", "units", "diff", "format", "search", "catalogue", "check-catalogue"},
+                             set(self.commands))
         self.assertEqual(options_in(self.help), {"--version", "--catalogue"})
         self.assertEqual(options_in(self.output("format", "--help")), {"--check", "--in-place"})
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Lets an independent validator, ajv, judge the JSON Schema, and compares what it says of documents with what
-`cluiconfig check` says; asks the language server of an editor what it completes and marks with it; and lets the
-TypeScript compiler compare SARIF output with the published shape of SARIF.
+"""Lets an independent validator, ajv, judge the JSON Schemas, and compares what it says of documents and catalogues with
+what `cluiconfig check` and `cluiconfig check-catalogue` say; asks the language server of an editor what it completes
+and marks; and lets the TypeScript compiler compare SARIF output with the published shape of SARIF.
 
 usage: schema_test.py PROGRAM SHIPPED_DOCUMENT EXAMPLES DIRECTORY
 
@@ -20,7 +20,7 @@ import tempfile
 import program
 
 PACKAGES = ["ajv@8.20.0", "typescript@5.9.3", "@types/sarif@2.1.7", "vscode-json-languageservice@5.7.2"]
-STRUCTURAL = {"wrong-version", "missing-key", "wrong-type", "unknown-key", "unknown-word", "empty-text", "wrong-length",
+STRUCTURAL = {"wrong-kind", "wrong-version", "missing-key", "wrong-type", "unknown-key", "unknown-word", "empty-text", "wrong-length",
               "out-of-range", "missing-y"}
 NAMES = {"unknown-array", "unknown-category"}
 EXAMPLES = NODE_DIRECTORY = pathlib.Path()
@@ -56,8 +56,14 @@ class WithNode(program.TestCase):
 
 
 class AgainstAjv(WithNode):
-    options = ()
-    rules = STRUCTURAL
+    command, options, rules = "check", (), STRUCTURAL
+    refused = 9  # examples at least
+
+    def shipped(self):
+        return program.SHIPPED
+
+    def examples(self):
+        return EXAMPLES
 
     def known_names(self):
         return []
@@ -67,8 +73,8 @@ class AgainstAjv(WithNode):
         return self.answers("validate.mjs", paths, self.options)
 
     def findings(self, paths):
-        """For each document, those of `cluiconfig check` that are about what the schema says."""
-        result = self.run_program("check", "--format", "json", *map(str, paths), timeout=240)
+        """For each document, those of the check that are about what the schema says."""
+        result = self.run_program(self.command, "--format", "json", *map(str, paths), timeout=240)
         return [[finding for finding in report["findings"] if finding["rule"] in self.rules]
                 for report in json.loads(result.stdout)]
 
@@ -84,21 +90,21 @@ class AgainstAjv(WithNode):
             invalid += verdict is not True
         return invalid
 
-    def test_ajv_accepts_the_schema_and_the_shipped_document(self):
-        self.assertEqual(self.verdicts([program.SHIPPED, EXAMPLES / "valid.json"]), [True, True])
+    def test_ajv_accepts_the_schema_and_what_is_shipped(self):
+        self.assertEqual(self.verdicts([self.shipped(), self.examples() / "valid.json"]), [True, True])
 
     def test_ajv_refuses_the_examples_of_these_rules_and_accepts_the_others(self):
-        valid = (EXAMPLES / "valid.json").read_text(encoding="utf-8")
+        valid = (self.examples() / "valid.json").read_text(encoding="utf-8")
         documents = []
-        for path in sorted(EXAMPLES.glob("*.json")):
+        for path in sorted(self.examples().glob("*.json")):
             if path.stem != "valid" and not path.stem.startswith(("not-json", "lax-json")):
                 example = json.loads(path.read_text(encoding="utf-8"))
                 documents.append(json.loads(valid.replace(example["replace"], example["by"], 1)))
-        self.assertGreaterEqual(self.compare(documents), len(self.rules))
+        self.assertGreaterEqual(self.compare(documents), self.refused)
 
     def test_ajv_and_check_agree_about_random_documents(self):
         shuffle = random.Random(29)
-        shipped = program.shipped()
+        shipped = json.loads(self.shipped().read_text(encoding="utf-8"))
         names = self.known_names()
         others = [None, 0, 29, -1, 29.5, 1e300, True, False, "", "TRUE", "Mass", [], [1, "two", [{}]], {},
                   {"Name": "Voltage / V"}, {"": True}]
@@ -119,6 +125,16 @@ class AgainstAjv(WithNode):
         documents = [mutate(copy.deepcopy(shipped)) for _ in range(200)]
         invalid = self.compare([document for document in documents if isinstance(document, dict)])
         self.assertGreater(invalid, 100)
+
+
+class CataloguesAgainstAjv(AgainstAjv):
+    command, options, refused = "check-catalogue", ("catalogue",), 6
+
+    def shipped(self):
+        return program.SHIPPED.parent / "DataArrays.json"
+
+    def examples(self):
+        return EXAMPLES.parent / "catalogues"
 
 
 class AgainstAjvWithNames(AgainstAjv):

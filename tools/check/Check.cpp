@@ -1,12 +1,14 @@
 #include "Check.h"
 
 #include "Suggest.h"
+#include "private/CatalogueCheck.h"
 #include "private/Sections.h"
 #include "private/Structure.h"
 #include "private/Syntax.h"
 
 #include <axes/AxesCombinationManager.h>
 #include <base/Singleton.h>
+#include <batterydata/ClConfigDataArrayManager.h>
 #include <batterydata/RawDataCollection.h>
 #include <config/Configuration.h>
 #include <datastorage/JsonUtils.h>
@@ -152,6 +154,45 @@ void checkSections(const Value& root, const Context& with)
     }
 }
 
+/// Whether \p root, which is to be a \p subject, has nothing of one and is the other.
+bool isOther(const QJsonObject& root, Subject subject)
+{
+    const bool isCatalogue = root.contains(CategoriesKey);
+    const auto has = [&](const uiconfig::Section& section) { return root.contains(section.key); };
+    const bool isDocument = std::ranges::any_of(uiconfig::sections(), has);
+    return subject == Subject::Document ? isCatalogue && !isDocument : isDocument && !isCatalogue;
+}
+
+/// What is found in \p bytes, of which the readers refuse what \p refusals tell. \p checkMeaning adds what goes beyond
+/// their structure.
+template <typename CheckMeaning>
+Result inspect(const QByteArray& bytes, const QJsonObject& root, Subject subject, const uiconfig::Refusals& refusals,
+               CheckMeaning checkMeaning)
+{
+    const Document document(bytes, root);
+    Findings findings(refusals, subject);
+    checkSpelling(document, findings);
+    if (isOther(root, subject)) {
+        findings.reportWhole(Rule::WrongKind, document.root(), [&](bool /*isRefused*/) {
+            return subject == Subject::Document
+                ? u"This is a catalogue of data arrays, not a UIConfig.json: %1. `cluiconfig check-catalogue` checks it."_s
+                      .arg(findings.refuses())
+                : u"This is a UIConfig.json, not a catalogue of data arrays: %1. `cluiconfig check` checks it."_s.arg(
+                    findings.refuses());
+        });
+    } else {
+        checkStructure(document.root(), findings);
+        checkMeaning(document.root(), findings);
+    }
+    findings.addUnexplained();
+
+    Result result;
+    result.verdict.loads = refusals.isEmpty(result.verdict.error);
+    result.findings = findings.list();
+    locate(result.findings, bytes);
+    return result;
+}
+
 } // namespace
 
 Result checkDocument(const QByteArray& bytes, const QJsonObject& root)
@@ -163,25 +204,27 @@ Result checkDocument(const QByteArray& bytes, const QJsonObject& root)
     AxesCombinationManager axes;
     axes.appendAll(std::move(configuration.axesCombinations));
 
-    const Document document(bytes, root);
     const Catalogue catalogue(arrays);
-    Findings findings(refusals);
-    checkSpelling(document, findings);
-    checkStructure(document.root(), findings);
-    checkSections(document.root(), {catalogue, axes, configuration, findings});
-    findings.addUnexplained();
+    return inspect(bytes, root, Subject::Document, refusals, [&](const Value& document, Findings& findings) {
+        checkSections(document, {catalogue, axes, configuration, findings});
+    });
+}
 
-    Result result;
-    result.verdict.loads = refusals.isEmpty(result.verdict.error);
-    result.findings = findings.list();
-    locate(result.findings, bytes);
-    return result;
+Result checkCatalogue(const QString& file, const QByteArray& bytes, const QJsonObject& root)
+{
+    uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
+    cl::batterydata::ClConfigDataArrayManager arrays;
+    QString error;
+    if (!arrays.readCatalogue(file, error)) {
+        refusals.goOnAfter(error, placeOfRefusal(error, file));
+    }
+    return inspect(bytes, root, Subject::Catalogue, refusals, checkCategories);
 }
 
 namespace {
 
 /// The findings in a text that the application refuses with \p error, since it is no JSON object.
-QList<Finding> findingsInText(const QByteArray& bytes, const QString& error)
+QList<Finding> findingsInText(const QByteArray& bytes, const QString& error, Subject subject)
 {
     const MendedText mended(bytes);
     QList<Finding> findings;
@@ -192,7 +235,7 @@ QList<Finding> findingsInText(const QByteArray& bytes, const QString& error)
         return {notJson(error)};
     }
     const QJsonDocument document = QJsonDocument::fromJson(mended.json());
-    if (document.isObject()) {
+    if (document.isObject() && subject == Subject::Document) {
         QList<Finding> others = checkDocument(mended.json(), document.object()).findings;
         others.removeIf([&](const Finding& finding) { return mended.isMissing(finding.offset); });
         for (Finding& finding : others) {
@@ -206,7 +249,7 @@ QList<Finding> findingsInText(const QByteArray& bytes, const QString& error)
 
 } // namespace
 
-Report check(const QString& file, const Severities& severities)
+Report check(const QString& file, const Severities& severities, Subject subject)
 {
     const QFileInfo info(file);
     if (info.exists() && !info.isFile() && !info.isDir()) {
@@ -230,11 +273,11 @@ Report check(const QString& file, const Severities& severities)
         return unreadable(file, u"\"%1\" is too large to be checked"_s.arg(file));
     }
     if (isObject) {
-        Result result = checkDocument(bytes, root);
+        Result result = subject == Subject::Document ? checkDocument(bytes, root) : checkCatalogue(file, bytes, root);
         report.verdict = std::move(result.verdict);
         report.findings = std::move(result.findings);
     } else {
-        report.findings = findingsInText(bytes, report.verdict.error);
+        report.findings = findingsInText(bytes, report.verdict.error, subject);
     }
     for (Finding& finding : report.findings) {
         finding.severity = severities.value(finding.rule, finding.severity);

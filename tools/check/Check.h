@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Finding.h"
+#include "Subject.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -18,7 +19,7 @@ struct Verdict
     QString error; ///< the loader's message where it refuses
 };
 
-/// What there is to say about one document.
+/// What there is to say about one document or catalogue.
 struct Report
 {
     QString file;
@@ -30,9 +31,10 @@ struct Report
 /// Severities that the user set instead of those of the rules.
 using Severities = QHash<Rule, Severity>;
 
-/// Checks the document \p file against the process's catalogue. It is read by the application's own readers, into a
-/// value of the check's own: the process-wide configuration plays no part.
-Report check(const QString& file, const Severities& severities = {});
+/// Checks \p file. It is read by the application's own readers, into a value of the check's own. A document is checked
+/// against the process's catalogue, while the process-wide configuration plays no part; a catalogue has nothing to do
+/// with the one of the process.
+Report check(const QString& file, const Severities& severities = {}, Subject subject = Subject::Document);
 
 /// The verdict on \p bytes, which Qt has read as \p root, and the findings in them.
 struct Result
@@ -41,5 +43,7 @@ struct Result
     QList<Finding> findings;
 };
 Result checkDocument(const QByteArray& bytes, const QJsonObject& root);
+/// The same for the catalogue \p file, which holds \p bytes.
+Result checkCatalogue(const QString& file, const QByteArray& bytes, const QJsonObject& root);
 
 } // namespace cluiconfig::check

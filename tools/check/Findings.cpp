@@ -8,13 +8,19 @@ using namespace Qt::StringLiterals;
 
 namespace cluiconfig::check {
 
-Findings::Findings(const uiconfig::Refusals& refusals)
+Findings::Findings(const uiconfig::Refusals& refusals, Subject subject)
     : m_refusals(refusals)
+    , m_subject(subject)
 {
     qsizetype index = 0;
     for (const uiconfig::Refusal& refusal : refusals.all()) {
         m_refused.insert({refusal.place, {index++}});
     }
+}
+
+QString Findings::refuses() const
+{
+    return m_subject == Subject::Catalogue ? u"the application refuses the catalogue"_s : Refuses;
 }
 
 bool Findings::explain(Refused& refused)
@@ -61,7 +67,7 @@ void Findings::addUnexplained()
             Finding finding;
             finding.pointer = place;
             finding.message =
-                u"The application refuses the document: %1."_s.arg(m_refusals.all().at(refused.index).sentence);
+                u"%1: %2."_s.arg(refuses().replace(0, 1, u"T"_s), m_refusals.all().at(refused.index).sentence);
             if (refused.index == 0) {
                 m_firstError = finding;
             }

@@ -44,6 +44,8 @@ const QList<RuleDescription>& rules()
          u"A key stands twice in an object: only the last one counts."_s},
         {Rule::Refused, u"refused"_s, MayBeError, !MayBeWarning,
          u"The application refuses the document for a reason that no other rule explains."_s},
+        {Rule::WrongKind, u"wrong-kind"_s, MayBeError, !MayBeWarning,
+         u"The file is a catalogue where a document belongs, or the other way round."_s},
         {Rule::WrongVersion, u"wrong-version"_s, MayBeError, !MayBeWarning,
          u"The document has another format version than the application reads."_s},
         {Rule::MissingKey, u"missing-key"_s, MayBeError, MayBeWarning, u"An object lacks a key that belongs there."_s},
@@ -51,7 +53,7 @@ const QList<RuleDescription>& rules()
          u"A value has another JSON type than the application reads there."_s},
         {Rule::UnknownKey, u"unknown-key"_s, !MayBeError, MayBeWarning,
          u"The application does not know a key and ignores it."_s},
-        {Rule::UnknownWord, u"unknown-word"_s, !MayBeError, MayBeWarning,
+        {Rule::UnknownWord, u"unknown-word"_s, MayBeError, MayBeWarning,
          u"A text is none of the words that mean something there."_s},
         {Rule::EmptyText, u"empty-text"_s, MayBeError, MayBeWarning, u"A text that should say something is empty."_s},
         {Rule::WrongLength, u"wrong-length"_s, MayBeError, !MayBeWarning,
@@ -90,6 +92,14 @@ const QList<RuleDescription>& rules()
          u"A recipe entry names a graph, a curve or a kind of table that the document lacks."_s},
         {Rule::FormulaGroup, u"formula-group"_s, !MayBeError, MayBeWarning,
          u"A group of formulas has a name of its own: the second Y axis offers it."_s},
+        {Rule::UnknownUnit, u"unknown-unit"_s, MayBeError, !MayBeWarning,
+         u"A text is no unit that the application knows."_s},
+        {Rule::WrongUnit, u"wrong-unit"_s, MayBeError, !MayBeWarning,
+         u"A unit does not measure the quantity of its array."_s},
+        {Rule::RepeatedCategory, u"repeated-category"_s, !MayBeError, MayBeWarning,
+         u"A category stands twice in a catalogue: its arrays are put together."_s},
+        {Rule::EmptyCatalogue, u"empty-catalogue"_s, !MayBeError, MayBeWarning,
+         u"A catalogue has no categories, or a category no arrays."_s},
     };
     return all;
 }

@@ -25,6 +25,7 @@ enum class Rule {
     LaxJson,
     DuplicateKey,
     Refused,
+    WrongKind,
     WrongVersion,
     MissingKey,
     WrongType,
@@ -50,6 +51,10 @@ enum class Rule {
     ParameterGap,
     UnknownTitle,
     FormulaGroup,
+    UnknownUnit,
+    WrongUnit,
+    RepeatedCategory,
+    EmptyCatalogue,
 };
 
 struct RuleDescription

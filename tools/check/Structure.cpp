@@ -35,8 +35,8 @@ constexpr auto PropertiesKey = "properties"_L1;
 /// The schema twice: as the validator reads it, and with the annotations that the validator does not keep.
 struct CompiledSchema
 {
-    CompiledSchema()
-        : json(QJsonDocument::fromJson(documentSchema()).object())
+    explicit CompiledSchema(const QByteArray& text)
+        : json(QJsonDocument::fromJson(text).object())
     {
         valijson::SchemaParser parser;
         parser.populateSchema(QtJsonAdapter(QJsonValue(json)), schema);
@@ -56,6 +56,16 @@ struct CompiledSchema
     QJsonObject json;
     valijson::Schema schema;
 };
+
+const CompiledSchema& schemaOf(Subject subject)
+{
+    if (subject == Subject::Catalogue) {
+        static const CompiledSchema catalogue(catalogueSchema());
+        return catalogue;
+    }
+    static const CompiledSchema document(documentSchema());
+    return document;
+}
 
 QByteArray resource(const QString& path)
 {
@@ -109,7 +119,9 @@ public:
     bool visit(const MaxItemsConstraint& constraint) override { return satisfies(constraint, u"maxItems"_s); }
     bool visit(const MinimumConstraint& constraint) override { return satisfies(constraint, u"minimum"_s); }
     bool visit(const MaximumConstraint& constraint) override { return satisfies(constraint, u"maximum"_s); }
-    bool visit(const AnyOfConstraint& /*constraint*/) override { return true; } // what it says a section knows better
+    // What these say is known better elsewhere: by a section, or by what looks at units.
+    bool visit(const AnyOfConstraint& /*constraint*/) override { return true; }
+    bool visit(const ConditionalConstraint& /*constraint*/) override { return true; }
 
     // The library's own stops counting at a NUL.
     bool visit(const MinLengthConstraint& constraint) override
@@ -166,8 +178,8 @@ public:
             const QJsonArray names = schema.value("enum"_L1).toArray();
             m_value.forEach([&](const Value& member) {
                 if (!names.contains(member.key())) {
-                    m_validation.findings.warnAtKey(Rule::UnknownWord, member,
-                                                    [&] { return unknownWordMessage(member.key(), schema); });
+                    m_validation.findings.warnAtKey(
+                        Rule::UnknownWord, member, [&] { return unknownWordMessage(member.key(), schema, QString()); });
                 }
             });
         }
@@ -211,8 +223,9 @@ private:
             return; // the finding about the misspelt key says what to do
         }
         const QJsonObject schema = m_validation.compiled.resolved(m_schema.value(PropertiesKey).toObject().value(key));
-        m_validation.findings.report(Rule::MissingKey, m_value, pointer,
-                                     [&](bool isRefused) { return missingKeyMessage(key, schema, isRefused); });
+        m_validation.findings.report(Rule::MissingKey, m_value, pointer, [&](bool isRefused) {
+            return missingKeyMessage(key, schema, refusal(isRefused));
+        });
     }
 
     /// Whether the value has an unknown key by which the known \p key may be meant.
@@ -226,6 +239,9 @@ private:
         });
     }
 
+    /// What to say of a value that is refused; nothing of one that is not.
+    QString refusal(bool isRefused) const { return isRefused ? m_validation.findings.refuses() : QString(); }
+
     bool isViolated(std::initializer_list<QString> keywords) const
     {
         return std::any_of(keywords.begin(), keywords.end(),
@@ -236,23 +252,28 @@ private:
     {
         Findings& findings = m_validation.findings;
         if (isViolated({u"type"_s})) {
-            findings.reportWhole(Rule::WrongType, m_value,
-                                 [this](bool isRefused) { return wrongTypeMessage(m_value, m_schema, isRefused); });
+            findings.reportWhole(Rule::WrongType, m_value, [this](bool isRefused) {
+                return wrongTypeMessage(m_value, m_schema, refusal(isRefused));
+            });
             return;
         }
         if (isViolated({u"const"_s})) {
-            findings.report(Rule::WrongVersion, m_value,
-                            [this](bool /*isRefused*/) { return wrongVersionMessage(m_value, m_schema); });
+            findings.report(Rule::WrongVersion, m_value, [&](bool /*isRefused*/) {
+                return wrongVersionMessage(m_value, m_schema, findings.refuses());
+            });
         }
         if (isViolated({u"minLength"_s})) {
             findings.report(Rule::EmptyText, m_value,
-                            [this](bool isRefused) { return emptyTextMessage(m_value, m_schema, isRefused); });
+                            [this](bool isRefused) { return emptyTextMessage(m_value, m_schema, refusal(isRefused)); });
         } else if (isViolated({u"enum"_s})) {
-            findings.warn(Rule::UnknownWord, m_value, [this] { return unknownWordMessage(m_value.text(), m_schema); });
+            findings.report(Rule::UnknownWord, m_value, [this](bool isRefused) {
+                return unknownWordMessage(m_value.text(), m_schema, refusal(isRefused));
+            });
         }
         if (isViolated({u"minItems"_s, u"maxItems"_s})) {
-            findings.report(Rule::WrongLength, m_value,
-                            [this](bool /*isRefused*/) { return wrongLengthMessage(m_value, m_schema); });
+            findings.report(Rule::WrongLength, m_value, [&](bool /*isRefused*/) {
+                return wrongLengthMessage(m_value, m_schema, findings.refuses());
+            });
         }
         if (isViolated({u"minimum"_s, u"maximum"_s})) {
             findings.warn(Rule::OutOfRange, m_value, [this] { return outOfRangeMessage(m_value, m_schema); });
@@ -279,7 +300,7 @@ QByteArray catalogueSchema()
 
 void checkStructure(const Value& root, Findings& findings)
 {
-    static const CompiledSchema compiled;
+    const CompiledSchema& compiled = schemaOf(findings.subject());
     Validation validation{compiled, findings};
     StructureVisitor::validate(root, *compiled.schema.root(), compiled.json, validation);
 }

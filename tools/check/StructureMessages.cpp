@@ -1,7 +1,6 @@
 #include "private/StructureMessages.h"
 
 #include "Suggest.h"
-#include "private/Findings.h"
 
 #include <QColor>
 #include <QJsonArray>
@@ -30,7 +29,7 @@ QStringList words(const QJsonObject& schema)
 /// What to write: one of a few words, or a value of the type.
 QString expected(const QJsonObject& schema)
 {
-    constexpr qsizetype MostListed = 4;
+    constexpr qsizetype MostListed = 5;
     const QStringList known = words(schema);
     if (!known.isEmpty() && known.size() <= MostListed) {
         return alternatives(known);
@@ -66,10 +65,10 @@ QString readingOf(const QString& type)
     return type == "boolean"_L1 ? u"it reads as false"_s : u"it reads as 0"_s;
 }
 
-QString effect(const QJsonObject& schema, const QString& keyword, bool isRefused)
+QString effect(const QJsonObject& schema, const QString& keyword, const QString& refusal)
 {
-    if (isRefused) {
-        return Refuses;
+    if (!refusal.isEmpty()) {
+        return refusal;
     }
     const QString given = schema.value(EffectKey).toObject().value(keyword).toString();
     return given.isEmpty() ? readingOf(schema.value(TypeKey).toString()) : given;
@@ -120,16 +119,16 @@ QString subject(const Value& value)
 
 } // namespace
 
-QString wrongTypeMessage(const Value& value, const QJsonObject& schema, bool isRefused)
+QString wrongTypeMessage(const Value& value, const QJsonObject& schema, const QString& refusal)
 {
     const QString meant = meantByText(value.text(), schema);
-    return u"%1 is %2: %3. Write %4."_s.arg(subject(value), shown(value.json()), effect(schema, TypeKey, isRefused),
+    return u"%1 is %2: %3. Write %4."_s.arg(subject(value), shown(value.json()), effect(schema, TypeKey, refusal),
                                             meant.isEmpty() ? expected(schema) : meant);
 }
 
-QString missingKeyMessage(const QString& key, const QJsonObject& schema, bool isRefused)
+QString missingKeyMessage(const QString& key, const QJsonObject& schema, const QString& refusal)
 {
-    return u"The key %1 is missing: %2. Add it, with %3."_s.arg(quoted(key), effect(schema, u"missing"_s, isRefused),
+    return u"The key %1 is missing: %2. Add it, with %3."_s.arg(quoted(key), effect(schema, u"missing"_s, refusal),
                                                                 expected(schema));
 }
 
@@ -158,7 +157,7 @@ QString unknownKeyMessage(const QString& key, const QStringList& meant, const QJ
         quoted(key), given.isEmpty() ? QString() : u": "_s + given, advice);
 }
 
-QString unknownWordMessage(const QString& word, const QJsonObject& schema)
+QString unknownWordMessage(const QString& word, const QJsonObject& schema, const QString& refusal)
 {
     QString advice = didYouMean(word, words(schema));
     if (advice.isEmpty()) {
@@ -166,33 +165,33 @@ QString unknownWordMessage(const QString& word, const QJsonObject& schema)
         advice = u" Write %1."_s.arg(command.isEmpty() ? expected(schema)
                                                        : u"one of the names that `%1` lists"_s.arg(command));
     }
-    return u"%1 means nothing here: %2.%3"_s.arg(quoted(word), effect(schema, EnumKey, false), advice);
+    return u"%1 means nothing here: %2.%3"_s.arg(quoted(word), effect(schema, EnumKey, refusal), advice);
 }
 
-QString emptyTextMessage(const Value& value, const QJsonObject& schema, bool isRefused)
+QString emptyTextMessage(const Value& value, const QJsonObject& schema, const QString& refusal)
 {
-    return u"%1 is empty: %2. Write a text."_s.arg(subject(value), effect(schema, u"minLength"_s, isRefused));
+    return u"%1 is empty: %2. Write a text."_s.arg(subject(value), effect(schema, u"minLength"_s, refusal));
 }
 
-QString wrongLengthMessage(const Value& value, const QJsonObject& schema)
+QString wrongLengthMessage(const Value& value, const QJsonObject& schema, const QString& refusal)
 {
     const qsizetype count = value.json().toArray().size();
     return u"%1 has %2: %3. Write %4."_s.arg(subject(value),
-                                             u"%1 element%2"_s.arg(count).arg(count == 1 ? u""_s : u"s"_s), Refuses,
+                                             u"%1 element%2"_s.arg(count).arg(count == 1 ? u""_s : u"s"_s), refusal,
                                              QString::number(schema.value("minItems"_L1).toInt()));
 }
 
 QString outOfRangeMessage(const Value& value, const QJsonObject& schema)
 {
     return u"%1 is beyond the range: %2. Write a whole number from %3 to %4."_s.arg(
-        shown(value.json()).replace(0, 1, u"T"_s), effect(schema, u"maximum"_s, false),
+        shown(value.json()).replace(0, 1, u"T"_s), effect(schema, u"maximum"_s, {}),
         QString::number(schema.value("minimum"_L1).toInt()), QString::number(schema.value("maximum"_L1).toInt()));
 }
 
-QString wrongVersionMessage(const Value& value, const QJsonObject& schema)
+QString wrongVersionMessage(const Value& value, const QJsonObject& schema, const QString& refusal)
 {
     return u"The format version is %1: %2. It reads version %3 only."_s.arg(
-        shown(value.json()), Refuses, QString::number(schema.value("const"_L1).toInt()));
+        shown(value.json()), refusal, QString::number(schema.value("const"_L1).toInt()));
 }
 
 } // namespace cluiconfig::check

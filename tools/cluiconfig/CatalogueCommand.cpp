@@ -14,6 +14,7 @@ void addCatalogueCommand(CLI::App& program)
                     "\n"
                     "Example:\n"
                     "  cluiconfig catalogue > site.json\n"
+                    "  cluiconfig check-catalogue site.json\n"
                     "  cluiconfig check --catalogue site.json UIConfig.json");
     command->callback([] {
         QFile file(u":/cluiconfig/DataArrays.json"_s);

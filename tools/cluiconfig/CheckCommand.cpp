@@ -22,7 +22,8 @@ using check::Severity;
 
 struct CheckOptions
 {
-    std::vector<std::string> documents;
+    check::Subject subject = check::Subject::Document;
+    std::vector<std::string> files;
     std::string format = "text";
     bool isStrict = false;
     std::vector<std::string> rules;
@@ -72,9 +73,9 @@ check::Severities severities(const std::vector<std::string>& arguments)
 }
 
 /// What the check says of \p file, by its name.
-Report reportOn(const InputFile& file, const check::Severities& severities)
+Report reportOn(const InputFile& file, const check::Severities& severities, check::Subject subject)
 {
-    Report report = check::check(file.path(), severities);
+    Report report = check::check(file.path(), severities, subject);
     report.file = file.name();
     report.verdict.error = file.named(report.verdict.error);
     for (Finding& finding : report.findings) {
@@ -94,20 +95,26 @@ int exitCode(const Report& report, bool isStrict)
     return fails || !report.verdict.loads ? ExitRefused : 0;
 }
 
+/// What the help calls the files.
+std::string nameOf(check::Subject subject)
+{
+    return subject == check::Subject::Document ? "DOCUMENT" : "CATALOGUE";
+}
+
 void runCheck(const CheckOptions& options)
 {
     if (options.listsRules) {
         listRules();
         return;
     }
-    if (options.documents.empty()) {
-        throw CLI::RequiredError("DOCUMENT");
+    if (options.files.empty()) {
+        throw CLI::RequiredError(nameOf(options.subject));
     }
     const check::Severities chosen = severities(options.rules);
     int code = 0;
     QList<Report> reports;
-    for (const std::string& document : options.documents) {
-        const Report report = reportOn(InputFile(document), chosen);
+    for (const std::string& file : options.files) {
+        const Report report = reportOn(InputFile(file), chosen, options.subject);
         code = std::max(code, exitCode(report, options.isStrict));
         if (options.format == "text") {
             print(check::asText(report, {colorDepth() != ColorDepth::None, isTerminal(stdout)}));
@@ -123,16 +130,12 @@ void runCheck(const CheckOptions& options)
     }
 }
 
-} // namespace
-
-void addCheckCommand(CLI::App& program)
+CLI::App* addCommand(CLI::App& program, const std::string& name, const std::string& description, check::Subject subject)
 {
     auto options = std::make_shared<CheckOptions>();
-    CLI::App* command = program.add_subcommand("check",
-                                               "Say whether the application loads a document, and everything in it "
-                                               "that is refused, dropped, ignored or turned "
-                                               "into something else, with its place.");
-    command->add_option("DOCUMENT", options->documents, "The documents to check; \"-\" is standard input.");
+    options->subject = subject;
+    CLI::App* command = program.add_subcommand(name, description);
+    command->add_option(nameOf(subject), options->files, "The files to check; \"-\" is standard input.");
     command->add_option("--format", options->format, "Lines for people, or JSON or SARIF 2.1.0 for programs.")
         ->check(CLI::IsMember({"text", "json", "sarif"}))
         ->capture_default_str();
@@ -141,6 +144,18 @@ void addCheckCommand(CLI::App& program)
         ->type_name("NAME=off|warning|error")
         ->allow_extra_args(false);
     command->add_flag("--list-rules", options->listsRules, "List the rules with their severities and meanings.");
+    command->callback([options] { runCheck(*options); });
+    return command;
+}
+
+} // namespace
+
+void addCheckCommand(CLI::App& program)
+{
+    CLI::App* command = addCommand(program, "check",
+                                   "Say whether the application loads a document, and everything in it that is "
+                                   "refused, dropped, ignored or turned into something else, with its place.",
+                                   check::Subject::Document);
     command->footer(
         "For each document the verdict comes first: it loads, or the application refuses it and says why.\n"
         "Then every finding: FILE:LINE:COLUMN: SEVERITY: MESSAGE [RULE at JSON-POINTER]. An error is what\n"
@@ -155,7 +170,22 @@ void addCheckCommand(CLI::App& program)
         "  cluiconfig check UIConfig.json\n"
         "  cluiconfig check --strict --rule unused-color=off site/*.json\n"
         "  cluiconfig check --format sarif UIConfig.json > findings.sarif");
-    command->callback([options] { runCheck(*options); });
+}
+
+void addCheckCatalogueCommand(CLI::App& program)
+{
+    CLI::App* command = addCommand(program, "check-catalogue",
+                                   "Say whether a catalogue of data arrays can be used, and everything in it that is "
+                                   "refused or ignored, with its place.",
+                                   check::Subject::Catalogue);
+    command->footer(
+        "The verdict, the findings and the exit codes are as with `cluiconfig check`, which its help explains.\n"
+        "What a catalogue looks like: `cluiconfig catalogue` prints the shipped one, `cluiconfig schema catalogue`\n"
+        "its JSON Schema, and `cluiconfig units` the quantities and units that it may name.\n"
+        "\n"
+        "Example, and then a document with the arrays of that catalogue:\n"
+        "  cluiconfig check-catalogue site.json\n"
+        "  cluiconfig check --catalogue site.json UIConfig.json");
 }
 
 } // namespace cluiconfig

@@ -14,6 +14,7 @@ void addArraysCommand(CLI::App& program);
 void addAxesCommand(CLI::App& program);
 void addCatalogueCommand(CLI::App& program);
 void addCheckCommand(CLI::App& program);
+void addCheckCatalogueCommand(CLI::App& program);
 void addDiffCommand(CLI::App& program);
 void addFormatCommand(CLI::App& program);
 void addSchemaCommand(CLI::App& program);

@@ -32,7 +32,7 @@ _cluiconfig_arrays() {
 _cluiconfig() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]}
     local everywhere="--help -h --version --catalogue"
-    local commands="check show arrays axes units diff format schema catalogue search"
+    local commands="check check-catalogue show arrays axes units diff format schema catalogue search"
     local command="" i
     for ((i = 1; i < COMP_CWORD; ++i)); do
         if [[ " $commands " == *" ${COMP_WORDS[i]} "* && ${COMP_WORDS[i - 1]} != --catalogue ]]; then
@@ -50,7 +50,7 @@ _cluiconfig() {
             ;;
         --format)
             local formats="text json"
-            [[ $command == check ]] && formats+=" sarif"
+            [[ $command == check* ]] && formats+=" sarif"
             mapfile -t COMPREPLY < <(compgen -W "$formats" -- "$cur")
             return
             ;;
@@ -74,7 +74,7 @@ _cluiconfig() {
     local options
     case $command in
         "") options=$commands ;;
-        check) options="--format --strict --rule --list-rules" ;;
+        check | check-catalogue) options="--format --strict --rule --list-rules" ;;
         show) options="--section --list-sections --format" ;;
         arrays) options="--category --format" ;;
         axes | units | diff) options="--format" ;;
@@ -91,7 +91,7 @@ _cluiconfig() {
             schema)
                 mapfile -t COMPREPLY < <(compgen -W "document catalogue" -- "$cur")
                 ;;
-            check | show | axes | diff | format | search)
+            check | check-catalogue | show | axes | diff | format | search)
                 mapfile -t COMPREPLY < <(compgen -f -- "$cur")
                 compopt -o filenames 2>/dev/null
                 ;;

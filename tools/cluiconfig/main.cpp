@@ -42,7 +42,7 @@ void useCatalogue(const std::string& path)
     const cluiconfig::InputFile file(path);
     cluiconfig::requireReadableFile(file);
     if (!catalogue.readCatalogue(file.path(), error)) {
-        cluiconfig::fail(file.named(error));
+        cluiconfig::fail(file.named(error) + u". `cluiconfig check-catalogue` tells all that is wrong with it."_s);
     }
 }
 
@@ -101,6 +101,7 @@ int main(int argc, char* argv[])
     cluiconfig::addFormatCommand(program);
     cluiconfig::addSearchCommand(program);
     cluiconfig::addCheckCommand(program);
+    cluiconfig::addCheckCatalogueCommand(program);
     cluiconfig::addCatalogueCommand(program);
     cluiconfig::addSchemaCommand(program);
     const int code = exitCodeOf([&] {

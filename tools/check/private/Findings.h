@@ -4,6 +4,7 @@
 
 #include <base/Refusals.h>
 #include <check/Finding.h>
+#include <check/Subject.h>
 
 #include <QList>
 #include <QString>
@@ -20,7 +21,8 @@ inline const QString Refuses = QStringLiteral("the application refuses the docum
 /// The findings of one document while it is being checked.
 ///
 /// What the readers of the application refuse is known from the start: a finding at such a place is an error, every
-/// other one a warning.
+/// other one a warning. The reader of a catalogue, though, stops at its first refusal: what is reported behind that may
+/// be refused as well, and is an error, too.
 ///
 /// Of each rule the first two hundred of the document are kept, and the others only counted, so that a document full of
 /// mistakes takes no more memory than any other.
@@ -29,7 +31,11 @@ class Findings
 public:
     static constexpr qsizetype MostOfARule = 200;
 
-    explicit Findings(const uiconfig::Refusals& refusals);
+    explicit Findings(const uiconfig::Refusals& refusals, Subject subject = Subject::Document);
+
+    Subject subject() const { return m_subject; }
+    /// What happens to what is refused, in a message.
+    QString refuses() const;
 
     bool isRefused(const QString& pointer) const { return m_refused.contains(pointer); }
 
@@ -53,11 +59,12 @@ public:
     void report(Rule rule, const Value& place, const QString& pointer, Message message)
     {
         const auto refused = m_refused.find(pointer);
-        if (refused == m_refused.end()) {
+        const bool isKnown = refused != m_refused.end();
+        if (!isKnown && !mayBeRefusedAnywhere()) {
             warn(rule, place, [&] { return message(false); });
             return;
         }
-        const bool isFirst = explain(refused->second);
+        const bool isFirst = isKnown && explain(refused->second);
         addError(rule, place, isFirst, [&] { return message(true); });
     }
 
@@ -73,7 +80,7 @@ public:
     void reportWhole(Rule rule, const Value& place, Message message)
     {
         const QString pointer = place.pointer();
-        bool isError = false;
+        bool isError = mayBeRefusedAnywhere();
         bool isFirst = false;
         for (auto each = m_refused.lower_bound(pointer); each != m_refused.end() && each->first.startsWith(pointer);
              ++each) {
@@ -109,7 +116,7 @@ private:
     struct Kept
     {
         Finding finding;
-        qsizetype sequence; // among those of its rule, as they were made
+        qsizetype sequence = 0; // among those of its rule, as they were made
     };
 
     struct OfRule
@@ -139,6 +146,7 @@ private:
         }
     }
 
+    bool mayBeRefusedAnywhere() const { return m_subject == Subject::Catalogue && !m_refused.empty(); }
     /// Notes that a finding explains \p refused; true when it is the first that explains the first refusal.
     static bool explain(Refused& refused);
     static bool isEarlier(const Kept& a, const Kept& b);
@@ -146,6 +154,7 @@ private:
     void keep(const Finding& finding);
 
     const uiconfig::Refusals& m_refusals;
+    Subject m_subject;
     std::map<QString, Refused> m_refused; // by place
     std::map<Rule, OfRule> m_ofRule;
     std::optional<Finding> m_firstError;

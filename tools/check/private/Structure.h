@@ -5,7 +5,8 @@
 
 namespace cluiconfig::check {
 
-/// Adds a finding for every place where \p root violates the JSON Schema: an error where the application refuses it.
+/// Adds a finding for every place where \p root violates the JSON Schema of what the findings are about: an error where
+/// the application refuses it.
 void checkStructure(const Value& root, Findings& findings);
 
 } // namespace cluiconfig::check
