@@ -33,5 +33,4 @@ function(clconfigui_add_library name header_root)
     if(WIN32)
         set_target_properties(${name} PROPERTIES PREFIX "") # CLConfigUI.dll, whichever compiler makes it
     endif()
-    set_property(GLOBAL APPEND PROPERTY CLCONFIGUI_LIBRARIES ${name})
 endfunction()

@@ -15,7 +15,8 @@ file(COPY ${SOURCE_DIR} DESTINATION ${directory})
 file(GLOB runtime_libraries ${PREFIX}/bin/*.dll ${RUNTIME_DIR}/Qt*.dll ${RUNTIME_DIR}/lib*.dll)
 file(COPY ${runtime_libraries} DESTINATION ${directory}/build)
 
-execute_process(COMMAND ${CMAKE_COMMAND} -G ${GENERATOR} -C ${SETTINGS} -S ${directory}/${project} -B ${directory}/build
+execute_process(COMMAND ${CMAKE_COMMAND} -G ${GENERATOR} -DPACKAGE_PREFIX=${PREFIX} -C ${SETTINGS}
+    -S ${directory}/${project} -B ${directory}/build
     RESULT_VARIABLE result)
 if(result EQUAL 0)
     execute_process(COMMAND ${CMAKE_COMMAND} --build ${directory}/build --config ${CONFIG} --target run
