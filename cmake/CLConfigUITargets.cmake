@@ -17,20 +17,34 @@ target_compile_definitions(clconfigui_strict INTERFACE QT_NO_CAST_FROM_ASCII QT_
 
 # clconfigui_add_library(NAME HEADER_ROOT)
 # A shared library NAME with the alias CLConfigUI::NAME and a generated export header <name_export.h>. Its headers are
-# included relative to HEADER_ROOT, in the build tree as after the installation.
+# included relative to HEADER_ROOT, or below CLConfigUI/, in the build tree as after the installation.
 function(clconfigui_add_library name header_root)
     add_library(${name} SHARED)
     add_library(CLConfigUI::${name} ALIAS ${name})
     string(TOLOWER ${name} lower)
     generate_export_header(${name} EXPORT_FILE_NAME ${PROJECT_BINARY_DIR}/include/${lower}_export.h)
+    clconfigui_forward_headers(${header_root})
     target_include_directories(${name} PUBLIC
         $<BUILD_INTERFACE:${header_root}>
         $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
-        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/CLConfigUI>)
+        $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/forward>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/CLConfigUI>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:clconfigui_strict>)
     set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
     if(WIN32)
         set_target_properties(${name} PROPERTIES PREFIX "") # CLConfigUI.dll, whichever compiler makes it
     endif()
+endfunction()
+
+# clconfigui_forward_headers(HEADER_ROOT)
+# Has the build tree's <CLConfigUI/...> include the headers of HEADER_ROOT, for programs with folders of the same names.
+function(clconfigui_forward_headers header_root)
+    file(GLOB_RECURSE headers RELATIVE ${header_root} CONFIGURE_DEPENDS ${header_root}/*.h)
+    list(FILTER headers EXCLUDE REGEX "(^|/)private/")
+    foreach(header IN LISTS headers)
+        file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/forward/CLConfigUI/${header}
+             CONTENT "#include \"@header_root@/@header@\"\n" @ONLY)
+    endforeach()
 endfunction()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <clconfigui_export.h>
+
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -10,7 +12,7 @@
 ///
 /// The owner adds the valid records in list order, each with its place in the list, and clears the index when the list
 /// is replaced.
-class CombinationIndex
+class CLCONFIGUI_EXPORT CombinationIndex
 {
 public:
     /// The number by which add() takes an X name. REQUIRES: a record is added under it at once, since the name counts

@@ -8,6 +8,12 @@ class AxesCombination;
 class RagonePlotChildItem;
 class StatisticsChildItem;
 
+// Programs may make an error of what is meant here; some compilers find it where a template is instantiated.
+#ifdef __GNUC__
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+#endif
+
 /// Lets code that knows only this adaptor add elements to a list. The base ignores them; ContainerAdaptor appends.
 ///
 /// The adaptor borrows the list, which must outlive it. There is no virtual destructor: an adaptor is never deleted
@@ -43,3 +49,7 @@ extern template class CLCONFIGUI_EXPORT ContainerAdaptorBase<QList<StatisticsChi
 extern template class CLCONFIGUI_EXPORT ContainerAdaptor<QList<AxesCombination>, AxesCombination>;
 extern template class CLCONFIGUI_EXPORT ContainerAdaptor<QList<RagonePlotChildItem>, RagonePlotChildItem>;
 extern template class CLCONFIGUI_EXPORT ContainerAdaptor<QList<StatisticsChildItem>, StatisticsChildItem>;
+
+#ifdef __GNUC__
+#pragma GCC diagnostic pop
+#endif
