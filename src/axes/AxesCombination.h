@@ -2,12 +2,11 @@
 
 #include <archive/ArchiveContext.h>
 #include <axes/DataStreamCombination.h>
+#include <axes/ScaleType.h>
 #include <clconfigui_export.h>
 #include <datastorage/DataArrayIdentifier.h>
 
 #include <QJsonObject>
-
-#include <qcustomplot.h>
 
 /// Which data array may be plotted on the X axis against which on the Y axis, and how the two axes start out: each
 /// linear or logarithmic, and whether the two are orthonormal (one unit as long on X as on Y).

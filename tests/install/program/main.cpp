@@ -1,5 +1,7 @@
 #include <config/UIConfig.h>
 
+#include "lean.h"
+
 #include <CLConfigUI/axes/CombinationIndex.h>
 #include <CLConfigUI/config/UIConfig.h>
 #include <CLConfigUI/items/ContainerAdaptor.h>
@@ -31,7 +33,7 @@ int main()
     index.forEachRecord(x, [&records](qsizetype) { ++records; });
 
     QFile techniques(data + QStringLiteral("techniques.txt"));
-    if (!techniques.open(QIODevice::ReadOnly)) {
+    if (!techniques.open(QIODevice::ReadOnly) || scaleOf(combinations.constFirst()) != QCPAxis::stLinear) {
         return 1;
     }
     std::printf("%d wide, %d combinations, %d of them over %s, %d techniques\n", WindowConfig().width,
