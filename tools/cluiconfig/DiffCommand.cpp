@@ -21,6 +21,7 @@ struct DiffOptions
     std::string before;
     std::string after;
     std::string format = "text";
+    bool isWide = false;
 };
 
 QList<Table> shownTables(const InputFile& document)
@@ -41,12 +42,13 @@ void diff(const DiffOptions& options)
     requireReadableFile(changed);
     const QList<Table> before = shownTables(old);
     const QList<Table> after = shownTables(changed);
+    const std::optional<qsizetype> room = options.isWide ? std::nullopt : terminalWidth();
     QStringList texts;
     QJsonArray tables;
     for (qsizetype i = 0; i < before.size(); ++i) {
         const TableDifference found = difference(before.at(i), after.at(i));
         if (!found.isEmpty()) {
-            texts.append(toText(before.at(i), found));
+            texts.append(toText(before.at(i), found, room));
             tables.append(toJson(before.at(i), found));
         }
     }
@@ -72,6 +74,7 @@ void addDiffCommand(CLI::App& program)
     command->add_option("--format", options->format, "Lines for people, or JSON for programs.")
         ->check(CLI::IsMember({"text", "json"}))
         ->capture_default_str();
+    addWideOption(*command, options->isWide);
     command->footer(
         R"(Both documents are loaded as the application does, and what it gets is compared, table by table as "show" prints
 them. The lines:

@@ -10,8 +10,10 @@
 #ifdef _WIN32
 #include <fcntl.h>
 #include <io.h>
+#include <windows.h>
 #else
 #include <csignal>
+#include <sys/ioctl.h>
 #include <unistd.h>
 #endif
 
@@ -35,6 +37,27 @@ ColorDepth colorDepth()
     }
     const QByteArray depth = qgetenv("COLORTERM");
     return depth == "truecolor" || depth == "24bit" ? ColorDepth::TrueColor : ColorDepth::Palette;
+}
+
+std::optional<qsizetype> terminalWidth()
+{
+    constexpr qsizetype UsualWidth = 80;
+    if (!isTerminal(stdout)) {
+        return std::nullopt;
+    }
+    if (const int wanted = qEnvironmentVariableIntValue("COLUMNS"); wanted > 0) {
+        return wanted;
+    }
+#ifdef _WIN32
+    CONSOLE_SCREEN_BUFFER_INFO screen;
+    const bool isKnown = GetConsoleScreenBufferInfo(GetStdHandle(STD_OUTPUT_HANDLE), &screen) != 0;
+    const qsizetype width = isKnown ? screen.srWindow.Right - screen.srWindow.Left + 1 : 0;
+#else
+    winsize screen{};
+    const bool isKnown = ioctl(fileno(stdout), TIOCGWINSZ, &screen) == 0;
+    const qsizetype width = isKnown ? screen.ws_col : 0;
+#endif
+    return width > 0 ? width : UsualWidth;
 }
 
 void useBytes()

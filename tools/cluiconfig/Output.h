@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstdio>
+#include <optional>
 
 namespace cluiconfig {
 
@@ -22,6 +23,10 @@ bool isTerminal(std::FILE* file);
 /// What standard output can show: nothing unless it is a terminal, nor where NO_COLOR is set to anything. COLORTERM
 /// says whether the terminal takes any colour.
 ColorDepth colorDepth();
+
+/// How many cells a line of standard output has, as COLUMNS says or the terminal itself; nothing when it is no
+/// terminal.
+std::optional<qsizetype> terminalWidth();
 
 /// Bytes are bytes: no translation of line ends, and a reader that goes away is an error of writing, not a signal.
 void useBytes();

@@ -1,5 +1,7 @@
 #include "Table.h"
 
+#include "Cells.h"
+
 #include <check/Text.h>
 
 #include <QColor>
@@ -7,6 +9,8 @@
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <iterator>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +20,8 @@ namespace {
 
 constexpr auto Indent = "  "_L1;
 constexpr auto Gap = "  "_L1;
+constexpr auto ListIndent = "      "_L1;
+constexpr auto Swatch = "      "_L1;
 
 QString cellText(const QJsonValue& value)
 {
@@ -53,7 +59,7 @@ QString swatch(const QString& name, ColorDepth colors)
     const QString background = colors == ColorDepth::TrueColor
         ? u"2;%1;%2;%3"_s.arg(color.red()).arg(color.green()).arg(color.blue())
         : u"5;%1"_s.arg(paletteIndex(color));
-    return u"  \x1b[48;"_s + background + u"m      \x1b[0m"_s;
+    return Gap + u"\x1b[48;"_s + background + u'm' + Swatch + u"\x1b[0m"_s;
 }
 
 QList<QStringList> textRows(const Table& table)
@@ -78,6 +84,115 @@ QList<QStringList> textRows(const Table& table)
     return rows;
 }
 
+/// How many cells a column may have.
+struct Column
+{
+    qsizetype least = 0; ///< For its longest word.
+    qsizetype most = 0; ///< For its longest text; its name may take several lines.
+    qsizetype all = 0; ///< For its longest text and its name.
+};
+
+QList<Column> columnsOf(const QStringList& names, const QList<QStringList>& rows)
+{
+    const auto longestWord = [](const QString& text) {
+        const QStringList all = words(text);
+        return std::ranges::max(all, {}, cellCount);
+    };
+    QList<Column> columns;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        Column column{.least = cellCount(longestWord(names.at(i)))};
+        for (const QStringList& row : rows) {
+            column.least = std::max(column.least, cellCount(longestWord(row.at(i))));
+            column.most = std::max(column.most, cellCount(row.at(i)));
+        }
+        column.most = std::max(column.most, column.least);
+        column.all = std::max(column.most, cellCount(names.at(i)));
+        columns.append(column);
+    }
+    return columns;
+}
+
+/// What a row has of a line besides its cells.
+qsizetype blanksBeside(const QList<Column>& columns)
+{
+    return Indent.size() + (columns.size() - 1) * Gap.size();
+}
+
+/// The size of a row in which nothing is wrapped.
+qsizetype widest(const QList<Column>& columns)
+{
+    return std::accumulate(columns.begin(), columns.end(), blanksBeside(columns),
+                           [](qsizetype sum, const Column& column) { return sum + column.all; });
+}
+
+/// Gives each of \p room to the narrowest of \p widths that has not what it wants, until all have or nothing is left.
+QList<qsizetype> shared(qsizetype room, QList<qsizetype> widths, const QList<qsizetype>& wanted)
+{
+    for (qsizetype rest = room - std::accumulate(widths.begin(), widths.end(), qsizetype{0}); rest > 0; --rest) {
+        qsizetype narrowest = -1;
+        for (qsizetype i = 0; i < widths.size(); ++i) {
+            if (widths.at(i) < wanted.at(i) && (narrowest < 0 || widths.at(i) < widths.at(narrowest))) {
+                narrowest = i;
+            }
+        }
+        if (narrowest < 0) {
+            break;
+        }
+        ++widths[narrowest];
+    }
+    return widths;
+}
+
+/// The widths of \p columns in a line of \p available cells: as wide as they want if that fits; otherwise no word is
+/// cut if that fits, and what is left goes to the narrow ones first.
+QList<qsizetype> widthsWithin(const QList<Column>& columns, qsizetype available)
+{
+    const auto each = [&](qsizetype Column::*size) {
+        QList<qsizetype> sizes;
+        std::ranges::transform(columns, std::back_inserter(sizes), size);
+        return sizes;
+    };
+    if (widest(columns) <= available) {
+        return each(&Column::all);
+    }
+    const qsizetype room = available - blanksBeside(columns);
+    const QList<qsizetype> words = shared(room, QList<qsizetype>(columns.size(), 1), each(&Column::least));
+    return shared(room, words, each(&Column::most));
+}
+
+QString withoutBlanksAtEnd(const QString& text)
+{
+    const auto last = std::find_if(text.rbegin(), text.rend(), [](QChar c) { return c != u' '; });
+    return text.first(std::distance(last, text.rend()));
+}
+
+/// A row of a table, \p end behind its first line.
+QString aligned(const QStringList& cells, const QList<qsizetype>& widths, const QString& end)
+{
+    QList<QStringList> columns;
+    qsizetype height = 0;
+    for (qsizetype i = 0; i < cells.size(); ++i) {
+        columns.append(wrapped(cells.at(i), widths.at(i)));
+        height = std::max(height, columns.constLast().size());
+    }
+    QString text;
+    for (qsizetype line = 0; line < height; ++line) {
+        QString row = Indent;
+        for (qsizetype i = 0; i < columns.size(); ++i) {
+            row += padded(columns.at(i).value(line), widths.at(i)) + Gap;
+        }
+        text += withoutBlanksAtEnd(row) + (line == 0 ? end : QString()) + u'\n';
+    }
+    return text;
+}
+
+/// \p list in lines of its own.
+QString indented(const QString& list, qsizetype available)
+{
+    const QString margin = ListIndent;
+    return margin + wrapped(list, available - margin.size()).join(u'\n' + margin) + u'\n';
+}
+
 } // namespace
 
 QJsonObject toObject(const Table& table, const QList<QJsonValue>& row)
@@ -89,31 +204,32 @@ QJsonObject toObject(const Table& table, const QList<QJsonValue>& row)
     return object;
 }
 
-QString toText(const Table& table, ColorDepth colors)
+void printText(const Table& table, ColorDepth colors, std::optional<qsizetype> room)
 {
-    QList<QStringList> lines = textRows(table);
-    lines.prepend(table.columns);
-
-    QList<qsizetype> widths(table.columns.size(), 0);
-    for (const QStringList& line : std::as_const(lines)) {
-        for (qsizetype i = 0; i < line.size(); ++i) {
-            widths[i] = std::max(widths.at(i), line.at(i).size());
-        }
-    }
-
-    QString text = check::printable(table.name) + u" ("_s + QString::number(table.rows.size()) + u")\n"_s;
+    print(u"%1 (%2)\n"_s.arg(check::printable(table.name)).arg(table.rows.size()).toUtf8());
     if (table.rows.isEmpty()) {
-        return text;
+        return;
     }
-    for (const QStringList& line : std::as_const(lines)) {
-        QString row = Indent;
-        for (qsizetype i = 0; i < line.size(); ++i) {
-            row += line.at(i).leftJustified(widths.at(i)) + Gap;
+    const QList<QStringList> rows = textRows(table);
+    QList<Column> columns = columnsOf(table.columns, rows);
+    const qsizetype available = room.value_or(widest(columns))
+        - (table.endsInColors && colors != ColorDepth::None ? Gap.size() + Swatch.size() : 0);
+    const bool hasListBelow = table.joinedColumn >= 0 && widest(columns) > available;
+    if (hasListBelow) {
+        columns.removeLast();
+    }
+    const QList<qsizetype> widths = widthsWithin(columns, available);
+    const auto printRow = [&](const QStringList& cells, const QString& end) {
+        QString text = aligned(cells.first(widths.size()), widths, end);
+        if (hasListBelow) {
+            text += indented(cells.constLast(), available);
         }
-        text +=
-            row.trimmed().prepend(Indent) + (table.endsInColors ? swatch(line.constLast(), colors) : QString()) + u'\n';
+        print(text.toUtf8());
+    };
+    printRow(table.columns, {});
+    for (const QStringList& row : rows) {
+        printRow(row, table.endsInColors ? swatch(row.constLast(), colors) : QString());
     }
-    return text;
 }
 
 QByteArray toJson(const Table& table)
@@ -131,6 +247,12 @@ void TableFormat::addTo(CLI::App& command)
     command.add_option("--format", name, "Aligned text for people, or JSON for programs.")
         ->check(CLI::IsMember({"text", "json"}))
         ->capture_default_str();
+    addWideOption(command, isWide);
+}
+
+void addWideOption(CLI::App& command, bool& isWide)
+{
+    command.add_flag("--wide", isWide, "On a terminal too, write what belongs on a line on one, however long it is.");
 }
 
 void TableFormat::print(const QList<Table>& tables) const
@@ -145,11 +267,12 @@ void TableFormat::print(const QList<Table>& tables) const
         printJson(text + "\n}\n");
         return;
     }
-    QStringList texts;
     for (const Table& table : tables) {
-        texts.append(toText(table, colorDepth()));
+        if (&table != &tables.constFirst()) {
+            cluiconfig::print("\n");
+        }
+        printText(table, colorDepth(), isWide ? std::nullopt : terminalWidth());
     }
-    cluiconfig::print(texts.join(u'\n').toUtf8());
 }
 
 } // namespace cluiconfig

@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <string>
 
 namespace cluiconfig {
@@ -28,7 +29,7 @@ struct Table
 
     // How the text looks.
 
-    /// Rows that stand together and differ only in this column become one, its values joined by commas.
+    /// Rows that stand together and differ only in this column, the last one, become one, its values joined by commas.
     qsizetype joinedColumn = -1;
     bool endsInColors = false; ///< The last column holds names of colours, such as "#0072b2".
 };
@@ -36,18 +37,23 @@ struct Table
 /// The row with the columns as keys.
 QJsonObject toObject(const Table& table, const QList<QJsonValue>& row);
 
-/// The heading with the number of rows, and the rows below it, columns aligned and separated by two blanks. Names of
-/// colours are followed by a swatch where \p colors are to be had.
-QString toText(const Table& table, ColorDepth colors = ColorDepth::None);
+/// Prints the heading with the number of rows, and the rows below it, columns aligned and separated by two blanks.
+/// Names of colours are followed by a swatch where \p colors are to be had. Where a row takes more than \p room, texts
+/// are wrapped in their columns, and values that were joined stand below their row.
+void printText(const Table& table, ColorDepth colors, std::optional<qsizetype> room);
 
 /// An array with one object a row, each on a line, the columns as keys.
 QByteArray toJson(const Table& table);
+
+/// Adds the option "--wide" of a command whose lines are wrapped to fit a terminal.
+void addWideOption(CLI::App& command, bool& isWide);
 
 /// The options of a command that prints tables, and how it does: as aligned text, an empty line between two tables, or
 /// as one JSON object with an array a table.
 struct TableFormat
 {
     std::string name = "text";
+    bool isWide = false;
 
     void addTo(CLI::App& command);
     void print(const QList<Table>& tables) const;

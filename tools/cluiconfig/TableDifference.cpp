@@ -1,5 +1,7 @@
 #include "TableDifference.h"
 
+#include "Cells.h"
+
 #include <check/Text.h>
 
 #include <QHash>
@@ -140,12 +142,29 @@ QStringList contentColumns(const Table& table, const QJsonObject& row)
     return columns;
 }
 
-/// `  + Name "Nyquist plot": X "Frequency / Hz"`, of which the first or the second part may be missing.
-QString line(QChar sign, const QString& row, const QString& content)
+/// Makes lines such as `  + Name "Nyquist plot": X "Frequency / Hz"`, of which the first or the second part may be
+/// missing.
+class Lines
 {
-    const QString colon = row.isEmpty() || content.isEmpty() ? QString() : u": "_s;
-    return u"  "_s + sign + u' ' + check::printable(row + colon + content) + u'\n';
-}
+public:
+    explicit Lines(std::optional<qsizetype> room)
+        : m_room(room)
+    {
+    }
+
+    QString operator()(QChar sign, const QString& row, const QString& content) const
+    {
+        const QString colon = row.isEmpty() || content.isEmpty() ? QString() : u": "_s;
+        const QString text = check::printable(row + colon + content);
+        const QStringList lines = m_room ? wrapped(text, *m_room - Margin.size()) : QStringList{text};
+        return u"  "_s + sign + u' ' + lines.join(u'\n' + QString(Margin)) + u'\n';
+    }
+
+private:
+    static constexpr auto Margin = "    "_L1;
+
+    std::optional<qsizetype> m_room;
+};
 
 QJsonArray rowsOf(const Table& table)
 {
@@ -203,8 +222,9 @@ TableDifference difference(const Table& tableBefore, const Table& tableAfter)
     return result;
 }
 
-QString toText(const Table& table, const TableDifference& difference)
+QString toText(const Table& table, const TableDifference& difference, std::optional<qsizetype> room)
 {
+    const Lines line(room);
     QStringList counts;
     const auto count = [&counts](qsizetype number, const QString& what) {
         if (number > 0) {

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 namespace cluiconfig {
 
 /// What became of the rows of a table.
@@ -42,8 +44,9 @@ struct TableDifference
 /// first goes with the first. Of the others, those are the same that differ in a single name.
 TableDifference difference(const Table& before, const Table& after);
 
-/// What became of the rows of \p table, which may be either of the two: a heading that counts, and a line for each row.
-QString toText(const Table& table, const TableDifference& difference);
+/// What became of the rows of \p table, which may be either of the two: a heading that counts, and a line for each row,
+/// which is wrapped where it takes more than \p room.
+QString toText(const Table& table, const TableDifference& difference, std::optional<qsizetype> room);
 
 /// `{"table", "gained": [row], "lost": [row], "changed": [{"row", "changes": [{"column", "from", "to"}]}],
 /// "moved": [{"row", "from", "to"}]}`

@@ -75,9 +75,9 @@ _cluiconfig() {
     case $command in
         "") options=$commands ;;
         check | check-catalogue) options="--format --strict --rule --list-rules" ;;
-        show) options="--section --list-sections --format" ;;
-        arrays) options="--category --format" ;;
-        axes | units | diff) options="--format" ;;
+        show) options="--section --list-sections --format --wide" ;;
+        arrays) options="--category --format --wide" ;;
+        axes | units | diff) options="--format --wide" ;;
         format) options="--check --in-place" ;;
         schema) options="--names" ;;
         catalogue) options="" ;;
