@@ -9,6 +9,7 @@
 #include <QJsonArray>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 using cl::datastorage::Converter;
@@ -166,6 +167,16 @@ Table curves(const QString& name, const QString& section, const QList<Graph>& gr
     return table;
 }
 
+Table statistics(const Configuration& configuration)
+{
+    return curves(u"Statistics graphs"_s, keys::Statistics, configuration.statistics);
+}
+
+Table ragonePlots(const Configuration& configuration)
+{
+    return curves(u"Ragone plots"_s, keys::RagonePlot, configuration.ragonePlots);
+}
+
 Table processedData(const Configuration& configuration)
 {
     Table table{.name = u"Processed-data graphs"_s,
@@ -243,6 +254,10 @@ Table debug(const Configuration& configuration)
             .keys = {u"Switch"_s}};
 }
 
+constexpr std::array TableMakers{axesCombinations, representations, msvUnits,    filters,     tools,
+                                 palette,          defaultColors,   statistics,  ragonePlots, processedData,
+                                 recipe,           processFormulas, dQdUColumns, dQdUGraph,   debug};
+
 } // namespace
 
 QString scaleText(QCPAxis::ScaleType scale)
@@ -250,25 +265,15 @@ QString scaleText(QCPAxis::ScaleType scale)
     return scale == QCPAxis::stLinear ? u"linear"_s : u"logarithmic"_s;
 }
 
-QList<Table> documentTables(const Configuration& configuration)
+QList<Table> documentTables(const Configuration& configuration, const QStringList& headings)
 {
-    return {
-        axesCombinations(configuration),
-        representations(configuration),
-        msvUnits(configuration),
-        filters(configuration),
-        tools(configuration),
-        palette(configuration),
-        defaultColors(configuration),
-        curves(u"Statistics graphs"_s, keys::Statistics, configuration.statistics),
-        curves(u"Ragone plots"_s, keys::RagonePlot, configuration.ragonePlots),
-        processedData(configuration),
-        recipe(configuration),
-        processFormulas(configuration),
-        dQdUColumns(configuration),
-        dQdUGraph(configuration),
-        debug(configuration),
-    };
+    QList<Table> tables;
+    for (const auto& make : TableMakers) {
+        if (headings.isEmpty() || headings.contains(make({}).name)) {
+            tables.append(make(configuration));
+        }
+    }
+    return tables;
 }
 
 } // namespace cluiconfig

@@ -17,7 +17,8 @@ namespace cluiconfig {
 QString scaleText(QCPAxis::ScaleType scale);
 
 /// What \p configuration gives the application, a table a section (two where a section holds two lists), in the order
-/// of the document's sections. Those of an empty configuration have no rows.
-QList<Table> documentTables(const uiconfig::Configuration& configuration);
+/// of the document's sections. Those of an empty configuration have no rows. Where \p headings are given, only theirs
+/// are made.
+QList<Table> documentTables(const uiconfig::Configuration& configuration, const QStringList& headings = {});
 
 } // namespace cluiconfig

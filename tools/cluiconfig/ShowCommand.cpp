@@ -25,15 +25,16 @@ struct ShowOptions
     TableFormat format;
 };
 
-/// The tables that \p name names, by their heading or by the key of their section.
-QList<Table> chosen(const QList<Table>& tables, const QString& name)
+/// The headings of the tables that \p name names, by their heading or by the key of their section.
+QStringList headings(const QString& name)
 {
-    QList<Table> found;
+    QStringList found;
     QStringList known;
+    const QList<Table> tables = documentTables({});
     for (const Table& table : tables) {
         if (table.name.compare(name, Qt::CaseInsensitive) == 0
             || table.section.compare(name, Qt::CaseInsensitive) == 0) {
-            found.append(table);
+            found.append(table.name);
         }
         known << table.section << table.name;
     }
@@ -53,14 +54,14 @@ Table sectionsTable()
                 .columns = {u"Section"_s, u"Type"_s, u"Required"_s, u"When it is missing"_s, u"Tables"_s}};
     const QList<Table> tables = documentTables({});
     for (const uiconfig::Section& section : uiconfig::sections()) {
-        QJsonArray headings;
+        QJsonArray own;
         for (const Table& each : tables) {
             if (each.section == section.key) {
-                headings.append(each.name);
+                own.append(each.name);
             }
         }
         table.rows.append({section.key, section.type == uiconfig::Section::Type::Array ? u"array"_s : u"object"_s,
-                           section.isRequired(), section.missing, headings});
+                           section.isRequired(), section.missing, own});
     }
     return table;
 }
@@ -71,11 +72,9 @@ void show(const ShowOptions& options)
         options.format.print({sectionsTable()});
         return;
     }
-    QList<Table> tables = documentTables(loadDocument(options.document));
-    if (!options.section.empty()) {
-        tables = chosen(tables, QString::fromStdString(options.section));
-    }
-    options.format.print(tables);
+    const uiconfig::Configuration configuration = loadDocument(options.document);
+    options.format.print(documentTables(
+        configuration, options.section.empty() ? QStringList() : headings(QString::fromStdString(options.section))));
 }
 
 } // namespace
