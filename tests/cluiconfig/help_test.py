@@ -42,6 +42,27 @@ class Help(program.TestCase):
         self.assertEqual(options_in(self.help), {"--version", "--catalogue"})
         self.assertEqual(options_in(self.output("format", "--help")), {"--check", "--in-place"})
 
+    def test_help_is_a_command_as_well(self):
+        self.assertEqual(self.output("help"), self.help)
+        for command in self.commands:
+            self.assertEqual(self.output("help", command), self.output(command, "--help"), command)
+        self.assertEqual(self.message(2, "help", "chek"), 'There is no command "chek". Did you mean "check"?\n')
+
+    def test_unknown_words_are_named_with_those_that_are_near(self):
+        commands = ", ".join(self.commands)
+        for arguments, message in (
+                (["shwo"], 'There is no command "shwo". Did you mean "show"? "cluiconfig help" tells more.'),
+                (["shwo", "my.json", "--section", "x"], 'There is no command "shwo". Did you mean "show"? "cluiconfig help" tells more.'),
+                (["shwo", "--help"], 'There is no command "shwo". Did you mean "show"? "cluiconfig help" tells more.'),
+                (["0815"], f'There is no command "0815". The commands are: {commands}. "cluiconfig help" tells more.'),
+                (["show", "--secton", "x"], 'There is no option "--secton". Did you mean "--section"? "cluiconfig help show" tells more.'),
+                (["show", "--secton=x"], 'There is no option "--secton". Did you mean "--section"? "cluiconfig help show" tells more.'),
+                (["check", "--strct"], 'There is no option "--strct". Did you mean "--strict"? "cluiconfig help check" tells more.'),
+                (["show", "--catalog", "x"], 'There is no option "--catalog". Did you mean "--catalogue"? "cluiconfig help show" tells more.'),
+                (["--vresion"], 'There is no option "--vresion". Did you mean "--version"? "cluiconfig help" tells more.'),
+                (["show", "-x"], 'There is no option "-x". "cluiconfig help show" tells more.')):
+            self.assertEqual(self.message(2, *arguments), message + "\n")
+
     def test_every_command_explains_its_exit_codes_or_gives_an_example(self):
         for command in self.commands:
             text = self.output(command, "--help")
@@ -71,6 +92,48 @@ class Help(program.TestCase):
                 self.assertEqual(set(self.completed(command, "--format", "")), set(formats[1].split(",")), command)
         self.assertEqual(self.completed("search", "--strategy", "te"), ["technique", "text"])
         self.assertEqual(self.completed("schema", ""), ["document", "catalogue"])
+
+    def test_completion_offers_every_rule_and_what_may_become_of_it(self):
+        rules = [line.split(" ")[0] for line in self.output("check", "--list-rules").splitlines()]
+        self.assertGreater(len(rules), 10)
+        self.assertEqual(self.completed("check", "--rule", ""), [f"{rule}=" for rule in rules])
+        self.assertEqual(self.completed("check", "--rule", "unused-color", "="), ["off", "warning", "error"])
+        self.assertEqual(self.completed("check", "--rule", "=", "unused-color", "=", "w"), ["warning"])
+        self.assertEqual(self.completed("check", "--format", "=", "s"), ["sarif"])
+
+    def test_completion_offers_every_physical_parameter(self):
+        parameters = {row["Parameter"] for row in self.tables("units")["Physical parameters"]}
+        self.assertEqual(set(self.completed("units", "'")), parameters)
+        self.assertEqual(self.completed("units", "Voltage", ""), [])
+
+    def test_completion_offers_the_data_arrays_of_axes(self):
+        xs = {row["X"] for row in self.tables("axes")["X axes"]}
+        ys = {row["Y"] for row in self.tables("axes", "Frequency / Hz")["Y axes against Frequency / Hz"]}
+        self.assertEqual(set(self.completed("axes", "'")), xs)
+        self.assertEqual(set(self.completed("axes", "Frequency\\ /\\ Hz", "\"")), ys)
+        self.assertEqual(self.completed("axes", "Frequency\\ /\\ Hz", "Phase\\ /\\ deg", ""), [])
+        document = program.shipped()
+        document["Axes combinations"] = [{"X": [{"Name": "Voltage / V"}], "Y1/Y2": [{"Name": "Current / A"}], "DEFAULT_SCALE_X": "LINEAR",
+                                          "DEFAULT_SCALE_Y": "LINEAR", "ORTHONORMAL_AXIS": "FALSE"}]
+        document["Representations"] = []
+        path = self.file("my own.json", document)
+        self.assertEqual(self.completed("axes", "my"), ["my\\ own.json"])
+        self.assertEqual(self.completed("axes", "my\\ own.json", ""), ["Voltage\\ /\\ V"])
+        self.assertEqual(self.completed("axes", path, "'Voltage / V'", ""), ["Current\\ /\\ A"])
+
+    @program.needs_posix("a pseudo terminal")
+    def test_completion_ends_what_a_person_types(self):
+        self.file("my own.json", "{}")
+        for typed, words in (("cluiconfig sh\t", ["show"]), ("cluiconfig help ax\t", ["help", "axes"]),
+                             ("cluiconfig show --section Axes\\ c\t", ["show", "--section", "Axes combinations"]),
+                             ("cluiconfig show --section 'Ragone P\t", ["show", "--section", "Ragone Plot"]),
+                             ("cluiconfig check --rule unused\toff my\t", ["check", "--rule", "unused-color=off", "my own.json"]),
+                             ("cluiconfig check --rule unused-color=w\t", ["check", "--rule", "unused-color=warning"]),
+                             ("cluiconfig check --format=sa\t", ["check", "--format=sarif"]),
+                             ("cluiconfig units 'Voltage r\t", ["units", "Voltage rate"]),
+                             ("cluiconfig axes Freq\tPh\t", ["axes", "Frequency / Hz", "Phase / deg"])):
+            with self.subTest(typed):
+                self.assertEqual(self.typed(typed)[1:], words)
 
     def test_completion_offers_files(self):
         path = self.file("my.json", "{}")

@@ -3,11 +3,13 @@
 import json
 import os
 import pathlib
+import re
 import shutil
 import struct
 import subprocess
 import sys
 import tempfile
+import threading
 import unittest
 
 IS_WINDOWS = os.name != "posix" or os.environ.get("CLUICONFIG_SYSTEM") == "Windows"
@@ -79,7 +81,11 @@ class TestCase(unittest.TestCase):
         return result.stderr
 
     def on_terminal(self, *arguments, columns=80, exit_code=0, environment=None):
-        """What a terminal gets, lines ending with a line feed."""
+        """What a terminal gets from the program."""
+        return self.screen_of([PROGRAM, *arguments], columns, exit_code, environment)
+
+    def screen_of(self, command, columns, exit_code, environment, keys=None):
+        """What a terminal gets from a command, lines ending with a line feed."""
         try:
             controller, terminal = os.openpty()
         except OSError as error:
@@ -89,15 +95,21 @@ class TestCase(unittest.TestCase):
         fcntl.ioctl(terminal, termios.TIOCSWINSZ, struct.pack("HHHH", 24, columns, 0, 0))
         inherited = {name: value for name, value in os.environ.items() if name not in ("NO_COLOR", "COLUMNS")}
         with os.fdopen(controller, "rb", buffering=0) as screen:
-            process = subprocess.Popen([PROGRAM, *arguments], stdout=terminal, stderr=terminal,
+            process = subprocess.Popen(command, stdin=terminal if keys else None, stdout=terminal, stderr=terminal,
+                                       cwd=self.directory, start_new_session=True,
                                        env={**inherited, "TERM": "xterm", **(environment or {})})
             os.close(terminal)
+            end = threading.Timer(20, process.kill)
+            end.start()
+            if keys:
+                os.write(controller, keys.encode())
             output = b""
             try:
                 while piece := screen.read(4096):
                     output += piece
             except OSError:  # how a terminal says that nobody writes to it any more
                 pass
+            end.cancel()
             self.assertEqual(process.wait(60), exit_code)
         return output.decode().replace("\r\n", "\n")
 
@@ -106,8 +118,23 @@ class TestCase(unittest.TestCase):
         bash = shutil.which("bash")
         if bash is None:
             self.skipTest("needs bash")
-        script = f"source '{COMPLETION}'; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _cluiconfig; printf '%s\\n' \"${{COMPREPLY[@]}}\""
+        script = f"source '{COMPLETION}'; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _cluiconfig; [[ ! ${{COMPREPLY[*]}} ]] || printf '%s\\n' \"${{COMPREPLY[@]}}\""
         result = subprocess.run([bash, "-c", script, "bash", PROGRAM, *words], capture_output=True, text=True,
                                 cwd=self.directory, timeout=60)
         self.assertEqual((result.returncode, result.stderr), (0, ""))
         return result.stdout.split("\n")[:-1]
+
+    def typed(self, line):
+        """The words of a line after a person has typed it in bash, tab keys included."""
+        bash = shutil.which("bash")
+        if bash is None:
+            self.skipTest("needs bash")
+        programs = self.directory / "bin"
+        if not programs.exists():
+            programs.mkdir()
+            (programs / "cluiconfig").symlink_to(PROGRAM)
+        # Instead of the command, one that prints its words is run: it is typed at the line's beginning.
+        screen = self.screen_of([bash, "--noprofile", "--rcfile", str(COMPLETION), "-i"], 2000, 0,
+                                {"PATH": f"{programs}:{os.environ['PATH']}", "TERM": "dumb"},
+                                keys=f"{line}\x01printf '<%s>\\n' \nexit\n")
+        return re.findall(r"^<(.*)>$", screen, re.MULTILINE)

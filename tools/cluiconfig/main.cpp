@@ -49,8 +49,13 @@ void useCatalogue(const std::string& path)
 /// Prints the help or the version that somebody asked for; ends the program when the arguments are wrong.
 void answer(const CLI::App& program, const CLI::ParseError& stop)
 {
-    if (stop.get_exit_code() != 0) {
-        cluiconfig::fail(QString::fromUtf8(stop.what()) + u". Run with --help for more information."_s);
+    const QString wrong = cluiconfig::wrongArgument(program);
+    if (!wrong.isEmpty() || stop.get_exit_code() != 0) {
+        const auto commands = program.get_subcommands();
+        const QString about =
+            commands.empty() ? QString() : u' ' + QString::fromStdString(commands.front()->get_name());
+        cluiconfig::fail((wrong.isEmpty() ? QString::fromUtf8(stop.what()) + u'.' : wrong)
+                         + u" \"cluiconfig help%1\" tells more."_s.arg(about));
     }
     std::ostringstream text;
     program.exit(stop, text);
@@ -86,7 +91,7 @@ int main(int argc, char* argv[])
     program.add_option_function<std::string>("--catalogue", useCatalogue,
                                              "The catalogue of data arrays to go by instead of the shipped one, which "
                                              "`cluiconfig catalogue` prints: a file in the same form.");
-    program.footer(R"(cluiconfig COMMAND --help tells more, with examples. To begin with:
+    program.footer(R"(cluiconfig help COMMAND tells more, with examples. To begin with:
   cluiconfig show                   what the shipped document gives
   cluiconfig check my.json          what is wrong with a document of your own, and what to write instead
   cluiconfig show my.json           what that document gives
@@ -104,6 +109,7 @@ int main(int argc, char* argv[])
     cluiconfig::addCheckCatalogueCommand(program);
     cluiconfig::addCatalogueCommand(program);
     cluiconfig::addSchemaCommand(program);
+    cluiconfig::addHelpCommand(program);
     const int code = exitCodeOf([&] {
         try {
             program.parse(reversedArguments(argc, argv));
