@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Runs `cluiconfig show` as people do. usage: show_test.py PROGRAM SHIPPED_DOCUMENT"""
 
+import json
 import os
 import subprocess
 import unittest
@@ -9,6 +10,15 @@ import program
 
 
 class Show(program.TestCase):
+    def test_representations_say_which_y_can_be_drawn(self):
+        document = program.shipped()
+        document["Representations"] = [{"Name": str(i), "X": "Test Time / s", **ys} for i, ys in enumerate((
+            {"Y1": "Voltage / V", "Y2": "Current / A"}, {"Y1": "Voltage / V"}, {"Y2": "Voltage / V"},
+            {"Y1": "Voltage / V", "Y2": "Frequency / Hz"}, {"Y1": "Frequency / Hz", "Y2": "Voltage / V"},
+            {"Y1": "Frequency / Hz"}))]
+        rows = self.tables("show", self.file("document.json", json.dumps(document)))["Representations"]
+        self.assertEqual([row["Drawn"] for row in rows], ["Y1 and Y2", "Y1", "Y2", "Y1", "Y2", "nothing"])
+
     def test_no_document_means_the_shipped_one(self):
         self.assertEqual(self.output("show"), self.output("show", str(program.SHIPPED)))
 

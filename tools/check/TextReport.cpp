@@ -1,5 +1,6 @@
 #include "Reports.h"
 
+#include "Cells.h"
 #include "Text.h"
 
 #include <algorithm>
@@ -43,7 +44,7 @@ QString quotation(const Finding& finding, const Painter& paint)
     const QString number = QString::number(finding.line).rightJustified(5) + u" | "_s;
     const QString before = shown(finding.before);
     return number + before + shown(finding.after) + u'\n' + u"| "_s.rightJustified(number.size())
-        + QString(before.size(), u' ') + paint(Green, u"^"_s) + u'\n';
+        + QString(cellCount(before), u' ') + paint(Green, u"^"_s) + u'\n';
 }
 
 } // namespace

@@ -37,26 +37,24 @@ Table axesCombinations(const Configuration& configuration)
 
 Table representations(const Configuration& configuration)
 {
-    Table table{
-        .name = keys::Representations,
-        .columns = {u"Name"_s, u"X"_s, u"Y1"_s, u"Y2"_s, u"Category"_s, u"Default"_s, u"Can be drawn"_s, u"Drawn"_s},
-        .section = keys::Representations,
-        .keys = {u"Name"_s},
-        .names = {u"Name"_s}};
+    Table table{.name = keys::Representations,
+                .columns = {u"Name"_s, u"X"_s, u"Y1"_s, u"Y2"_s, u"Category"_s, u"Default"_s, u"Drawn"_s},
+                .section = keys::Representations,
+                .keys = {u"Name"_s},
+                .names = {u"Name"_s}};
     AxesCombinationManager axes;
     axes.appendAll(configuration.axesCombinations);
     for (const ConfigRepresentation& representation : configuration.representations) {
-        QJsonArray drawn;
-        for (const auto& [key, y] :
-             {std::pair(keys::Y1, representation.y1()), std::pair(keys::Y2, representation.y2())}) {
+        const auto isDrawn = [&](const QString& y) {
             const ConfigRepresentation alone(QString(), representation.x(), y, QString(), QString(), false);
-            if (!y.isEmpty() && axes.isRepresentationValid(&alone)) {
-                drawn.append(key);
-            }
-        }
+            return !y.isEmpty() && axes.isRepresentationValid(&alone);
+        };
+        QStringList drawn;
+        drawn += isDrawn(representation.y1()) ? QStringList(keys::Y1) : QStringList();
+        drawn += isDrawn(representation.y2()) ? QStringList(keys::Y2) : QStringList();
         table.rows.append({representation.name(), representation.x(), representation.y1(), representation.y2(),
                            representation.category(), representation.isDefault(),
-                           axes.isRepresentationValid(&representation), drawn});
+                           drawn.isEmpty() ? u"nothing"_s : drawn.join(u" and "_s)});
     }
     return table;
 }

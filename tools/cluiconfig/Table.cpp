@@ -1,7 +1,6 @@
 #include "Table.h"
 
-#include "Cells.h"
-
+#include <check/Cells.h>
 #include <check/Text.h>
 
 #include <QColor>
@@ -95,18 +94,18 @@ struct Column
 QList<Column> columnsOf(const QStringList& names, const QList<QStringList>& rows)
 {
     const auto longestWord = [](const QString& text) {
-        const QStringList all = words(text);
-        return std::ranges::max(all, {}, cellCount);
+        const QStringList all = check::words(text);
+        return std::ranges::max(all, {}, check::cellCount);
     };
     QList<Column> columns;
     for (qsizetype i = 0; i < names.size(); ++i) {
-        Column column{.least = cellCount(longestWord(names.at(i)))};
+        Column column{.least = check::cellCount(longestWord(names.at(i)))};
         for (const QStringList& row : rows) {
-            column.least = std::max(column.least, cellCount(longestWord(row.at(i))));
-            column.most = std::max(column.most, cellCount(row.at(i)));
+            column.least = std::max(column.least, check::cellCount(longestWord(row.at(i))));
+            column.most = std::max(column.most, check::cellCount(row.at(i)));
         }
         column.most = std::max(column.most, column.least);
-        column.all = std::max(column.most, cellCount(names.at(i)));
+        column.all = std::max(column.most, check::cellCount(names.at(i)));
         columns.append(column);
     }
     return columns;
@@ -172,14 +171,21 @@ QString aligned(const QStringList& cells, const QList<qsizetype>& widths, const 
     QList<QStringList> columns;
     qsizetype height = 0;
     for (qsizetype i = 0; i < cells.size(); ++i) {
-        columns.append(wrapped(cells.at(i), widths.at(i)));
+        columns.append(check::wrapped(cells.at(i), widths.at(i)));
         height = std::max(height, columns.constLast().size());
     }
     QString text;
     for (qsizetype line = 0; line < height; ++line) {
-        QString row = Indent;
+        // Blanks are written when something follows them: not in each row as many as the longest one has.
+        QString row;
+        qsizetype blanks = Indent.size();
         for (qsizetype i = 0; i < columns.size(); ++i) {
-            row += padded(columns.at(i).value(line), widths.at(i)) + Gap;
+            const QString cell = columns.at(i).value(line);
+            if (!cell.isEmpty()) {
+                row += QString(blanks, u' ') + cell;
+                blanks = 0;
+            }
+            blanks += widths.at(i) - check::cellCount(cell) + Gap.size();
         }
         text += withoutBlanksAtEnd(row) + (line == 0 ? end : QString()) + u'\n';
     }
@@ -190,7 +196,7 @@ QString aligned(const QStringList& cells, const QList<qsizetype>& widths, const 
 QString indented(const QString& list, qsizetype available)
 {
     const QString margin = ListIndent;
-    return margin + wrapped(list, available - margin.size()).join(u'\n' + margin) + u'\n';
+    return margin + check::wrapped(list, available - margin.size()).join(u'\n' + margin) + u'\n';
 }
 
 } // namespace

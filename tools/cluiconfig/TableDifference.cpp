@@ -1,7 +1,6 @@
 #include "TableDifference.h"
 
-#include "Cells.h"
-
+#include <check/Cells.h>
 #include <check/Text.h>
 
 #include <QHash>
@@ -156,7 +155,7 @@ public:
     {
         const QString colon = row.isEmpty() || content.isEmpty() ? QString() : u": "_s;
         const QString text = check::printable(row + colon + content);
-        const QStringList lines = m_room ? wrapped(text, *m_room - Margin.size()) : QStringList{text};
+        const QStringList lines = m_room ? check::wrapped(text, *m_room - Margin.size()) : QStringList{text};
         return u"  "_s + sign + u' ' + lines.join(u'\n' + QString(Margin)) + u'\n';
     }
 

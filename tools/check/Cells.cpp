@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace cluiconfig {
+namespace cluiconfig::check {
 
 namespace {
 
@@ -78,11 +78,6 @@ qsizetype cellCount(QStringView text)
     return cells;
 }
 
-QString padded(const QString& text, qsizetype cells)
-{
-    return text + QString(std::max<qsizetype>(0, cells - cellCount(text)), u' ');
-}
-
 QStringList words(const QString& text)
 {
     QStringList words;
@@ -111,4 +106,4 @@ QStringList wrapped(const QString& text, qsizetype cells)
     return lines;
 }
 
-} // namespace cluiconfig
+} // namespace cluiconfig::check
