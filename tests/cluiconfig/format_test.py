@@ -191,6 +191,13 @@ class Format(program.TestCase):
             self.assertEqual(self.message(2, "format", "--in-place", path), message)
             self.assertEqual(pathlib.Path(path).read_bytes(), text)
 
+    def test_nothing_behind_a_nul_is_lost(self):
+        for text, place in ((b'{"a":1}\0{"lost":2}', "line 1, column 8"), (b'{"a":1}\n\0', "line 2, column 1")):
+            path = self.directory / "nul.json"
+            path.write_bytes(text)
+            self.assertIn(place, self.message(2, "format", "--in-place", str(path)))
+            self.assertEqual(path.read_bytes(), text)
+
     def test_nesting_is_followed_as_deep_as_the_application_does(self):
         deep = self.formatted("[" * 1024 + "]" * 1024)
         self.assertEqual(len(deep.splitlines()), 2 * 1023 + 1)

@@ -6,6 +6,7 @@
 #include <config/Configuration.h>
 #include <datastorage/Converter.h>
 
+#include <QHash>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -135,12 +136,15 @@ Table defaultColors(const Configuration& configuration)
                 .section = keys::Colors,
                 .keys = {u"Element"_s},
                 .endsInColors = true};
-    const uiconfig::Colors& colors = configuration.colors;
-    for (auto it = colors.defaults.begin(); it != colors.defaults.end(); ++it) {
-        const auto found = std::find_if(colors.custom.begin(), colors.custom.end(),
-                                        [&](const auto& custom) { return custom.first == it.value(); });
-        table.rows.append(
-            {it.key(), found == colors.custom.end() ? QJsonValue(QJsonValue::Null) : found->second.name()});
+    QHash<QString, QString> palette; // of two colours of one name the first counts
+    for (const auto& [name, color] : configuration.colors.custom) {
+        if (!palette.contains(name)) {
+            palette.insert(name, color.name());
+        }
+    }
+    const QMap<QString, QString>& defaults = configuration.colors.defaults;
+    for (auto it = defaults.begin(); it != defaults.end(); ++it) {
+        table.rows.append({it.key(), palette.contains(it.value()) ? palette.value(it.value()) : QJsonValue()});
     }
     return table;
 }

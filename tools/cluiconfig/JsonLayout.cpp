@@ -318,6 +318,12 @@ bool JsonLayout::read(const QByteArray& text, QString& error)
                               : QString::fromLatin1(rapidjson::GetParseError_En(result.Code())));
         return false;
     }
+    // The parser takes a NUL for the end.
+    const auto end = static_cast<qsizetype>(stream.Tell());
+    if (end < m_text.size()) {
+        error = problemAt(QByteArrayView(m_text).first(end), u"the document ends before this character, a NUL"_s);
+        return false;
+    }
     return true;
 }
 
