@@ -51,7 +51,7 @@ std::string fourLettersAWord(const std::string& name)
     std::istringstream words(piece(name, 0));
     std::string result;
     for (std::string word; words >> word;) {
-        result += (result.empty() ? "" : " ") + word.substr(0, 4);
+        result.append(result.empty() ? "" : " ").append(word, 0, 4);
     }
     return result;
 }
