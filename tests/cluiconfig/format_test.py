@@ -193,7 +193,7 @@ class Format(program.TestCase):
 
     def test_nothing_behind_a_nul_is_lost(self):
         for text, place in ((b'{"a":1}\0{"lost":2}', "line 1, column 8"), (b'{"a":1}\n\0', "line 2, column 1")):
-            path = self.directory / "nul.json"
+            path = self.directory / "behind.json"
             path.write_bytes(text)
             self.assertIn(place, self.message(2, "format", "--in-place", str(path)))
             self.assertEqual(path.read_bytes(), text)

@@ -67,6 +67,7 @@ class StandardInput(program.TestCase):
         self.assertEqual((result.returncode, result.stdout), (0, self.output("show", self.path)))
         self.assertEqual(self.given("abc\nxyz\n", "search", "ab", "-").stdout, "abc\n")
 
+    @program.needs_posix("a directory for temporary files of its own")
     def test_leaves_no_file_behind(self):
         with tempfile.TemporaryDirectory() as directory:
             environment = {**os.environ, "TMPDIR": directory, "TEMP": directory, "TMP": directory}
