@@ -8,7 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string_view>
+
 using namespace Qt::StringLiterals;
+using namespace std::string_view_literals;
 using cluiconfig::check::MendedText;
 using cluiconfig::check::SyntaxError;
 
@@ -108,7 +111,8 @@ TEST(MendedText, EveryQuoteThatIsMissingIsFoundInItsLine)
 TEST(MendedText, WhateverIsDoneToATextItsPlacesLieInItAndWhatIsMendedIsJson)
 {
     const QByteArray shipped = shippedText().first(20'000) + shippedText().last(20'000);
-    const QByteArray pieces("{}[]\"\",,::;='#/*\\<>=| \n\t0123.eE-+truefalsenull\xC2\xA0\xE2\x80\x9C\xFF\x80\0(", 60);
+    constexpr auto Pieces = "{}[]\"\",,::;='#/*\\<>=| \n\t0123.eE-+truefalsenull\xC2\xA0\xE2\x80\x9C\xFF\x80\0("sv;
+    const QByteArray pieces(Pieces.data(), std::ssize(Pieces));
     Random random(12);
     for (int i = 0; i < 400; ++i) {
         QByteArray text = shipped.sliced(0, 200 + random.below(shipped.size() - 200));
