@@ -3,12 +3,12 @@
 
 #include <batterydata/ClConfigDataArrayManager.h>
 #include <check/Check.h>
+#include <data/ShippedFile.h>
 #include <support/DocumentFile.h>
 #include <support/DocumentMutator.h>
 #include <support/QtPrinters.h>
 #include <support/Random.h>
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -28,8 +28,7 @@ namespace {
 
 QJsonObject shippedCatalogue()
 {
-    QFile file(QStringLiteral(SHIPPED_DATA_DIRECTORY "/DataArrays.json"));
-    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+    return shippedObject(u"DataArrays.json"_s);
 }
 
 /// More than the default of some hundreds where somebody asks for it.

@@ -5,13 +5,13 @@
 #include <check/private/Document.h>
 #include <check/private/Findings.h>
 #include <config/UIConfig.h>
+#include <data/ShippedFile.h>
 #include <datastorage/Converter.h>
 #include <support/ConfigDocument.h>
 #include <support/DocumentFile.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -300,14 +300,8 @@ TEST(Quoted, NeverCutsALetterInTwo)
 
 TEST(DocumentSchema, ListsTheElementsOfTheShippedDocument)
 {
-    QFile file(QStringLiteral(SHIPPED_DATA_DIRECTORY "/UIConfig.json"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QJsonObject colors = QJsonDocument::fromJson(file.readAll())
-                                   .object()
-                                   .value("Colors"_L1)
-                                   .toObject()
-                                   .value("Default colors"_L1)
-                                   .toObject();
+    const QJsonObject colors =
+        shippedObject(u"UIConfig.json"_s).value("Colors"_L1).toObject().value("Default colors"_L1).toObject();
     const QJsonObject schema = QJsonDocument::fromJson(documentSchema())
                                    .object()["properties"_L1]["Colors"_L1]["properties"_L1]["Default colors"_L1]
                                    .toObject();

@@ -7,11 +7,11 @@
 #include <check/Check.h>
 #include <config/Configuration.h>
 #include <config/UIConfig.h>
+#include <data/ShippedFile.h>
 #include <support/DocumentFile.h>
 #include <support/DocumentMutator.h>
 #include <support/QtPrinters.h>
 
-#include <QFile>
 #include <QJsonDocument>
 
 #include <gtest/gtest.h>
@@ -26,12 +26,6 @@ using cluiconfig::check::Rule;
 using cluiconfig::check::Severity;
 
 namespace {
-
-QByteArray shippedBytes()
-{
-    QFile file(QStringLiteral(SHIPPED_DATA_DIRECTORY "/UIConfig.json"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// What stands at the place \p pointer of \p root; undefined if nothing does.
 QJsonValue valueAt(const QJsonObject& root, const QString& pointer)
@@ -77,7 +71,7 @@ TEST(CheckedMutations, HaveTheVerdictOfTheLoaderAndItsRefusalFirst)
     auto& config = lumo::tools::Singleton<UIConfig>::instance();
     const auto& catalogue =
         lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
-    const QJsonObject shipped = QJsonDocument::fromJson(shippedBytes()).object();
+    const QJsonObject shipped = shippedObject(u"UIConfig.json"_s);
     ASSERT_FALSE(shipped.isEmpty());
     const DocumentFile file(shipped);
     // No name holds a place marker: the loader's message would fill it, and no longer tell the place.

@@ -1,8 +1,8 @@
 #include <check/private/Syntax.h>
+#include <data/ShippedFile.h>
 #include <support/QtPrinters.h>
 #include <support/Random.h>
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -16,12 +16,6 @@ using cluiconfig::check::MendedText;
 using cluiconfig::check::SyntaxError;
 
 namespace {
-
-QByteArray shippedText()
-{
-    QFile file(QStringLiteral(SHIPPED_DATA_DIRECTORY "/UIConfig.json"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// About a hundred offsets of \p byte in \p text where it stands between texts, not in one.
 QList<qsizetype> placesOf(char byte, const QByteArray& text)
@@ -46,7 +40,7 @@ QList<qsizetype> placesOf(char byte, const QByteArray& text)
 /// and the document is the same without it.
 void leaveOutEach(char byte, const QString& message)
 {
-    const QByteArray text = shippedText();
+    const QByteArray text = shippedBytes(u"UIConfig.json"_s);
     const QJsonDocument whole = QJsonDocument::fromJson(text);
     const QList<qsizetype> places = placesOf(byte, text);
     ASSERT_GT(places.size(), 50);
@@ -74,7 +68,7 @@ TEST(MendedText, EveryColonThatIsMissingIsFoundAtItsPlace)
 
 TEST(MendedText, EveryBracketThatIsMissingIsFoundInALineBesideIt)
 {
-    const QByteArray text = shippedText();
+    const QByteArray text = shippedBytes(u"UIConfig.json"_s);
     const QJsonDocument whole = QJsonDocument::fromJson(text);
     int same = 0;
     int total = 0;
@@ -92,7 +86,7 @@ TEST(MendedText, EveryBracketThatIsMissingIsFoundInALineBesideIt)
 
 TEST(MendedText, EveryQuoteThatIsMissingIsFoundInItsLine)
 {
-    const QByteArray text = shippedText();
+    const QByteArray text = shippedBytes(u"UIConfig.json"_s);
     const QJsonDocument whole = QJsonDocument::fromJson(text);
     int same = 0;
     int total = 0;
@@ -110,7 +104,8 @@ TEST(MendedText, EveryQuoteThatIsMissingIsFoundInItsLine)
 
 TEST(MendedText, WhateverIsDoneToATextItsPlacesLieInItAndWhatIsMendedIsJson)
 {
-    const QByteArray shipped = shippedText().first(20'000) + shippedText().last(20'000);
+    const QByteArray whole = shippedBytes(u"UIConfig.json"_s);
+    const QByteArray shipped = whole.first(20'000) + whole.last(20'000);
     constexpr auto Pieces = "{}[]\"\",,::;='#/*\\<>=| \n\t0123.eE-+truefalsenull\xC2\xA0\xE2\x80\x9C\xFF\x80\0("sv;
     const QByteArray pieces(Pieces.data(), std::ssize(Pieces));
     Random random(12);

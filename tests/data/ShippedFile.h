@@ -2,6 +2,8 @@
 
 #include <datastorage/JsonUtils.h>
 
+#include <QByteArray>
+#include <QFile>
 #include <QJsonObject>
 #include <QString>
 
@@ -20,4 +22,12 @@ inline QJsonObject shippedObject(const QString& name)
     QJsonObject root;
     EXPECT_TRUE(cl::datastorage::JsonUtils::openJsonDocument(shippedPath(name), error, root)) << error.toStdString();
     return root;
+}
+
+/// The bytes of a file in data/.
+inline QByteArray shippedBytes(const QString& name)
+{
+    QFile file(shippedPath(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.errorString().toStdString();
+    return file.readAll();
 }
