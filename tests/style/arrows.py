@@ -20,7 +20,11 @@ ROOMS = {
     "src/config": ["src/base", "platform", "src/axes", "src/items"],
     "src/search": [],
     "tools/check": ["src/base", "platform", "src/axes", "src/items", "src/config"],
-    "tools/cluiconfig": ["src/base", "platform", "src/axes", "src/items", "src/config", "src/search", "tools/check"],
+    "tools/document": ["src/base", "platform", "src/axes", "src/items", "src/config"],
+    "tools/cluiconfig": ["src/base", "platform", "src/axes", "src/items", "src/config", "src/search", "tools/check",
+                         "tools/document"],
+    "tools/cluiedit": ["src/base", "platform", "src/axes", "src/items", "src/config", "src/search", "tools/check",
+                       "tools/document"],
 }
 WITHOUT_QT = ["src/search"]
 INCLUDE_PATHS = ["src", "platform", "tools"]

@@ -10,14 +10,13 @@
 #include <base/Singleton.h>
 #include <batterydata/ClConfigDataArrayManager.h>
 #include <batterydata/RawDataCollection.h>
-#include <config/Configuration.h>
 #include <datastorage/JsonUtils.h>
 
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QRegularExpression>
+#include <QTemporaryFile>
 
 #include <algorithm>
 #include <limits>
@@ -143,9 +142,12 @@ void checkSpelling(const Document& document, Findings& findings)
     }
 }
 
-void checkSections(const Value& root, const Context& with)
+void checkSections(const Value& root, const Context& with, const std::stop_token& stop)
 {
     for (const uiconfig::Section& section : uiconfig::sections()) {
+        if (stop.stop_requested()) {
+            return;
+        }
         const std::optional<Value> value = root.member(section.key);
         const auto row = std::ranges::find(SectionChecks, section.key, &SectionCheck::section);
         if (value && section.isTypeOf(value->json()) && row != SectionChecks.end()) {
@@ -195,19 +197,26 @@ Result inspect(const QByteArray& bytes, const QJsonObject& root, Subject subject
 
 } // namespace
 
-Result checkDocument(const QByteArray& bytes, const QJsonObject& root)
+Result checkDocument(const QByteArray& bytes, const QJsonObject& root, const std::stop_token& stop)
 {
     const auto& arrays = lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
     uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::GoOn);
     uiconfig::Configuration configuration;
     uiconfig::readConfiguration(root, {arrays, configuration, refusals});
-    AxesCombinationManager axes;
-    axes.appendAll(std::move(configuration.axesCombinations));
+    const auto axes = std::make_shared<AxesCombinationManager>();
+    axes->appendAll(configuration.axesCombinations);
 
-    const Catalogue catalogue(arrays);
-    return inspect(bytes, root, Subject::Document, refusals, [&](const Value& document, Findings& findings) {
-        checkSections(document, {catalogue, axes, configuration, findings});
-    });
+    Result result;
+    if (!stop.stop_requested()) {
+        const Catalogue catalogue(arrays);
+        result = inspect(bytes, root, Subject::Document, refusals, [&](const Value& document, Findings& findings) {
+            checkSections(document, {catalogue, *axes, configuration, findings}, stop);
+        });
+    }
+    result.root = root;
+    result.configuration = std::move(configuration);
+    result.axes = axes;
+    return result;
 }
 
 Result checkCatalogue(const QString& file, const QByteArray& bytes, const QJsonObject& root)
@@ -249,6 +258,51 @@ QList<Finding> findingsInText(const QByteArray& bytes, const QString& error, Sub
 
 } // namespace
 
+namespace {
+
+/// What the loader says of a file \p name with \p text, which is no JSON object.
+QString refusal(const QByteArray& text, const QString& name)
+{
+    QTemporaryFile file;
+    QString error;
+    QJsonObject root;
+    if (!file.open() || file.write(text) != text.size() || !file.flush()) {
+        return u"Cannot write \"%1\": %2"_s.arg(file.fileName(), file.errorString());
+    }
+    JsonUtils::openJsonDocument(file.fileName(), error, root);
+    return error.replace(file.fileName(), name);
+}
+
+bool isTooLarge(const QByteArray& bytes)
+{
+    return bytes.size() >= std::numeric_limits<quint32>::max();
+}
+
+QString tooLarge(const QString& name)
+{
+    return u"\"%1\" is too large to be checked"_s.arg(name);
+}
+
+} // namespace
+
+Result checkText(const QByteArray& text, const QString& name, const std::stop_token& stop)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(text);
+    if (document.isObject() && !isTooLarge(text)) {
+        return checkDocument(text, document.object(), stop);
+    }
+    Result result;
+    result.axes = std::make_shared<AxesCombinationManager>();
+    if (isTooLarge(text)) {
+        result.verdict.error = tooLarge(name);
+        result.findings = {errorAboutTheFile(Rule::Unreadable, result.verdict.error + u'.')};
+    } else {
+        result.verdict.error = refusal(text, name);
+        result.findings = findingsInText(text, result.verdict.error, Subject::Document);
+    }
+    return result;
+}
+
 Report check(const QString& file, const Severities& severities, Subject subject)
 {
     const QFileInfo info(file);
@@ -269,8 +323,8 @@ Report check(const QString& file, const Severities& severities, Subject subject)
     if (source.error() != QFileDevice::NoError) {
         return unreadable(file, report.verdict.error);
     }
-    if (bytes.size() >= std::numeric_limits<quint32>::max()) {
-        return unreadable(file, u"\"%1\" is too large to be checked"_s.arg(file));
+    if (isTooLarge(bytes)) {
+        return unreadable(file, tooLarge(file));
     }
     if (isObject) {
         Result result = subject == Subject::Document ? checkDocument(bytes, root) : checkCatalogue(file, bytes, root);

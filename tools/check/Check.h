@@ -3,12 +3,18 @@
 #include "Finding.h"
 #include "Subject.h"
 
+#include <config/Configuration.h>
+
 #include <QByteArray>
 #include <QHash>
+#include <QJsonObject>
 #include <QList>
 #include <QString>
 
-class QJsonObject;
+#include <memory>
+#include <stop_token>
+
+class AxesCombinationManager;
 
 namespace cluiconfig::check {
 
@@ -36,13 +42,22 @@ using Severities = QHash<Rule, Severity>;
 /// with the one of the process.
 Report check(const QString& file, const Severities& severities = {}, Subject subject = Subject::Document);
 
-/// The verdict on \p bytes, which Qt has read as \p root, and the findings in them.
+/// The verdict on a text, the findings in it, and what was read for that.
 struct Result
 {
     Verdict verdict;
-    QList<Finding> findings;
+    QList<Finding> findings; ///< as in a report
+    QJsonObject root; ///< the document, empty where the text is no JSON object
+    uiconfig::Configuration configuration; ///< all of it where the document loads
+    std::shared_ptr<const AxesCombinationManager> axes; ///< those of the configuration; never null
 };
-Result checkDocument(const QByteArray& bytes, const QJsonObject& root);
+
+/// The same as for a file of the name \p name that holds \p text, and what it gives. A request by \p stop ends the
+/// check early: then the result is of no use.
+Result checkText(const QByteArray& text, const QString& name, const std::stop_token& stop = {});
+
+/// The same for \p bytes, which Qt has read as \p root.
+Result checkDocument(const QByteArray& bytes, const QJsonObject& root, const std::stop_token& stop = {});
 /// The same for the catalogue \p file, which holds \p bytes.
 Result checkCatalogue(const QString& file, const QByteArray& bytes, const QJsonObject& root);
 

@@ -318,8 +318,8 @@ private:
     {
         finishMember();
         QString closers;
-        for (auto each = m_open.rbegin(); each != m_open.rend(); ++each) {
-            closers += QChar::fromLatin1(closerOf(each->opener));
+        for (const auto& each : m_open) {
+            closers.prepend(QChar::fromLatin1(closerOf(each.opener)));
         }
         error(m_end,
               u"The text ends before the document does: the %1 that begins in line %2 is not closed. Type %3 where "
@@ -551,14 +551,14 @@ private:
     /// The number or the word that \p word is or is meant to be; empty if it is a text.
     QByteArray plainValue(std::string_view word)
     {
-        const QByteArray bytes(word.data(), offset(word.size()));
+        QByteArray bytes(word.data(), offset(word.size()));
         if (isValue(word)) {
             return bytes;
         }
         bool isNumber = false;
         const double number = startsNumber(word.front()) ? bytes.toDouble(&isNumber) : 0;
         const QByteArray small = bytes.toLower();
-        const QByteArray meant = isNumber                               ? QByteArray::number(number, 'g', 17)
+        QByteArray meant = isNumber                                     ? QByteArray::number(number, 'g', 17)
             : small == "true" || small == "false" || small == "null"    ? small
             : small == "none" || small == "undefined" || small == "nan" ? QByteArray("null")
                                                                         : QByteArray();

@@ -1,7 +1,7 @@
 #include "Commands.h"
 #include "NearMiss.h"
 #include "Output.h"
-#include "Table.h"
+#include "TableOutput.h"
 
 #include <batterydata/RawDataCollection.h>
 #include <datastorage/Converter.h>

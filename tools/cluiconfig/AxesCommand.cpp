@@ -1,12 +1,13 @@
 #include "Commands.h"
 #include "DocumentFile.h"
-#include "DocumentTables.h"
 #include "NearMiss.h"
 #include "Output.h"
+#include "TableOutput.h"
 
 #include <axes/AxesCombinationManager.h>
 #include <base/DocumentKeys.h>
 #include <config/Configuration.h>
+#include <document/DocumentTables.h>
 
 #include <QFileInfo>
 

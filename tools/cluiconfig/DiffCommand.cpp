@@ -1,8 +1,10 @@
 #include "Commands.h"
 #include "DocumentFile.h"
-#include "DocumentTables.h"
 #include "Output.h"
 #include "TableDifference.h"
+#include "TableOutput.h"
+
+#include <document/DocumentTables.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>

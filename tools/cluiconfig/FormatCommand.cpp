@@ -1,7 +1,8 @@
 #include "Commands.h"
 #include "DocumentFile.h"
-#include "JsonLayout.h"
 #include "Output.h"
+
+#include <document/JsonLayout.h>
 
 #include <QBuffer>
 #include <QFile>

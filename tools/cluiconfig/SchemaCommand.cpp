@@ -1,9 +1,9 @@
 #include "Commands.h"
-#include "NamedSchema.h"
 #include "Output.h"
 
 #include <batterydata/RawDataCollection.h>
 #include <check/Schema.h>
+#include <document/NamedSchema.h>
 
 #include <QJsonDocument>
 

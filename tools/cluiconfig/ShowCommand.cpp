@@ -1,10 +1,11 @@
 #include "Commands.h"
 #include "DocumentFile.h"
-#include "DocumentTables.h"
 #include "NearMiss.h"
 #include "Output.h"
+#include "TableOutput.h"
 
 #include <config/Configuration.h>
+#include <document/DocumentTables.h>
 
 #include <QJsonArray>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Table.h"
+#include "TableOutput.h"
 
 #include <QJsonObject>
 #include <QJsonValue>

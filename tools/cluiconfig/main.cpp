@@ -110,9 +110,10 @@ int main(int argc, char* argv[])
     cluiconfig::addCatalogueCommand(program);
     cluiconfig::addSchemaCommand(program);
     cluiconfig::addHelpCommand(program);
+    const std::vector<std::string> arguments = reversedArguments(argc, argv);
     const int code = exitCodeOf([&] {
         try {
-            program.parse(reversedArguments(argc, argv));
+            program.parse(std::vector(arguments));
         } catch (const CLI::RuntimeError&) {
             throw;
         } catch (const CLI::ParseError& stop) {

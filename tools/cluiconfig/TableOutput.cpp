@@ -1,4 +1,4 @@
-#include "Table.h"
+#include "TableOutput.h"
 
 #include <check/Cells.h>
 #include <check/Text.h>
@@ -21,25 +21,6 @@ constexpr auto Indent = "  "_L1;
 constexpr auto Gap = "  "_L1;
 constexpr auto ListIndent = "      "_L1;
 constexpr auto Swatch = "      "_L1;
-
-QString cellText(const QJsonValue& value)
-{
-    if (value.isBool()) {
-        return value.toBool() ? u"yes"_s : u"no"_s;
-    }
-    if (value.isArray()) {
-        QStringList parts;
-        const QJsonArray array = value.toArray();
-        for (const auto& element : array) {
-            parts.append(element.toString());
-        }
-        return parts.join(u", "_s);
-    }
-    if (value.isDouble()) {
-        return QString::number(value.toInteger());
-    }
-    return value.isNull() ? u"(unknown)"_s : value.toString();
-}
 
 /// The number among a terminal's 256 colours of the one nearest to \p color in the cube of six steps a channel.
 int paletteIndex(const QColor& color)
