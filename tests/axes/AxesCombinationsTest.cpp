@@ -16,16 +16,16 @@ const QString Untouched = u"untouched"_s;
 class AxesCombinationReader : public testing::Test
 {
 protected:
-    bool readEntry(const QJsonObject& entry) { return m_manager.readAxesCombination(entry, m_error); }
-    bool readSection(const QJsonObject& root) { return m_manager.readAxesCombinations(root, m_error); }
-    QStringList list() const { return described(m_manager.getAxesCombinations()); }
+    bool readEntry(const QJsonObject& entry) { return manager.readAxesCombination(entry, error); }
+    bool readSection(const QJsonObject& root) { return manager.readAxesCombinations(root, error); }
+    QStringList list() const { return described(manager.getAxesCombinations()); }
 
-    TestCatalogue m_catalogue{
+    TestCatalogue catalogue{
         {u"Time"_s, u"Step"_s},    {u"Voltage"_s, u"Cycle"_s}, {u"Time"_s, u"Cycle"_s},
         {u"Voltage"_s, u"Step"_s}, {u"Time"_s, u"Loop"_s},     {u"Charge"_s, u"Cycle"_s},
     };
-    AxesCombinationManager m_manager;
-    QString m_error = Untouched;
+    AxesCombinationManager manager;
+    QString error = Untouched;
 };
 
 /// An entry that yields "Time (Step) / Voltage (Step)", to be spoilt by the tests.
@@ -57,8 +57,8 @@ TEST_F(AxesCombinationReader, EntryOfTwoFullReferencesYieldsOneRecord)
 {
     EXPECT_TRUE(readEntry(goodEntry()));
     EXPECT_EQ(list(), QStringList({GoodRecord}));
-    EXPECT_EQ(m_error, Untouched);
-    EXPECT_EQ(m_manager.getXAxesNames(), QStringList({u"Time"_s}));
+    EXPECT_EQ(error, Untouched);
+    EXPECT_EQ(manager.getXAxesNames(), QStringList({u"Time"_s}));
 }
 
 TEST_F(AxesCombinationReader, ReferencesWithoutCategoryYieldOneRecordForEverySharedCategory)
@@ -111,17 +111,17 @@ TEST_F(AxesCombinationReader, ArraysOfTheSameEmptyCategoryPairAndAreInvalid)
         "DEFAULT_SCALE_X": "LINEAR", "DEFAULT_SCALE_Y": "LINEAR", "ORTHONORMAL_AXIS": "FALSE"
     })")));
     EXPECT_EQ(list(), QStringList({u"Power () / Power (), linear / linear"_s}));
-    EXPECT_TRUE(m_manager.getXAxesNames().isEmpty());
+    EXPECT_TRUE(manager.getXAxesNames().isEmpty());
 }
 
 TEST_F(AxesCombinationReader, OnlyTheExactWordLinearGivesALinearScale)
 {
     for (const auto& word : {u"LOGARITHMIC"_s, u"linear"_s, u"Linear"_s, u" LINEAR"_s, u"LINEAR "_s, u" "_s, u"0"_s}) {
-        m_manager.deleteAll();
+        manager.deleteAll();
         EXPECT_TRUE(readEntry(goodEntryWith(u"DEFAULT_SCALE_X"_s, word)));
         EXPECT_EQ(list(), QStringList({u"Time (Step) / Voltage (Step), logarithmic / logarithmic, orthonormal"_s}));
     }
-    m_manager.deleteAll();
+    manager.deleteAll();
     EXPECT_TRUE(readEntry(goodEntryWith(u"DEFAULT_SCALE_Y"_s, u"LINEAR"_s)));
     EXPECT_TRUE(readEntry(goodEntryWith(u"DEFAULT_SCALE_Y"_s, u"linear"_s)));
     EXPECT_EQ(list(), QStringList({u"Time (Step) / Voltage (Step), linear / linear, orthonormal"_s, GoodRecord}));
@@ -130,7 +130,7 @@ TEST_F(AxesCombinationReader, OnlyTheExactWordLinearGivesALinearScale)
 TEST_F(AxesCombinationReader, OnlyTheExactWordTrueGivesAnOrthonormalPlot)
 {
     for (const auto& word : {u"FALSE"_s, u"true"_s, u"True"_s, u"TRUE "_s, u" "_s, u"1"_s}) {
-        m_manager.deleteAll();
+        manager.deleteAll();
         EXPECT_TRUE(readEntry(goodEntryWith(u"ORTHONORMAL_AXIS"_s, word)));
         EXPECT_EQ(list(), QStringList({u"Time (Step) / Voltage (Step), linear / logarithmic"_s}));
     }
@@ -141,9 +141,9 @@ TEST_F(AxesCombinationReader, SectionThatIsNoArrayFails)
     for (const QJsonValue& value : valuesOfOtherTypes(QJsonValue::Array)) {
         QJsonObject root;
         root.insert(u"Axes combinations"_s, value);
-        m_error = Untouched;
+        error = Untouched;
         EXPECT_FALSE(readSection(root));
-        EXPECT_EQ(m_error, u"Axes combinations array missing"_s);
+        EXPECT_EQ(error, u"Axes combinations array missing"_s);
     }
 }
 
@@ -151,9 +151,9 @@ TEST_F(AxesCombinationReader, EntryThatIsNoObjectFails)
 {
     for (const QJsonValue& value : valuesOfOtherTypes(QJsonValue::Object)) {
         if (!value.isUndefined()) {
-            m_error = Untouched;
+            error = Untouched;
             EXPECT_FALSE(readSection(section(QJsonArray{value, goodEntry()})));
-            EXPECT_EQ(m_error, u"Axes combination is not Json object"_s);
+            EXPECT_EQ(error, u"Axes combination is not Json object"_s);
             EXPECT_EQ(list(), QStringList());
         }
     }
@@ -162,9 +162,9 @@ TEST_F(AxesCombinationReader, EntryThatIsNoObjectFails)
 TEST_F(AxesCombinationReader, XThatIsNoArrayFails)
 {
     for (const QJsonValue& value : valuesOfOtherTypes(QJsonValue::Array)) {
-        m_error = Untouched;
+        error = Untouched;
         EXPECT_FALSE(readEntry(goodEntryWith(u"X"_s, value)));
-        EXPECT_EQ(m_error, u"Unexpected axes combination X"_s);
+        EXPECT_EQ(error, u"Unexpected axes combination X"_s);
     }
 }
 
@@ -173,22 +173,22 @@ TEST_F(AxesCombinationReader, YThatIsNoArrayIsAnEmptyList)
     for (const QJsonValue& value : valuesOfOtherTypes(QJsonValue::Array)) {
         EXPECT_TRUE(readEntry(goodEntryWith(u"Y1/Y2"_s, value)));
         EXPECT_EQ(list(), QStringList());
-        EXPECT_EQ(m_error, Untouched);
+        EXPECT_EQ(error, Untouched);
     }
 }
 
 TEST_F(AxesCombinationReader, UnknownArrayOfACategoryFailsWithItsNameAndCategory)
 {
     EXPECT_FALSE(readEntry(goodEntryWith(u"X"_s, QJsonArray{jsonObject(R"({"Name": "Charge", "Category": "Step"})")})));
-    EXPECT_EQ(m_error, u"Unexpected axes combination X: Charge (Step)"_s);
+    EXPECT_EQ(error, u"Unexpected axes combination X: Charge (Step)"_s);
     EXPECT_FALSE(readEntry(goodEntryWith(u"X"_s, QJsonArray{jsonObject(R"({"Category": "Step"})")})));
-    EXPECT_EQ(m_error, u"Unexpected axes combination X:  (Step)"_s);
+    EXPECT_EQ(error, u"Unexpected axes combination X:  (Step)"_s);
     EXPECT_FALSE(
         readEntry(goodEntryWith(u"Y1/Y2"_s, QJsonArray{jsonObject(R"({"Name": "voltage", "Category": "Step"})")})));
-    EXPECT_EQ(m_error, u"Unexpected axes combination Y1/Y2: voltage (Step)"_s);
+    EXPECT_EQ(error, u"Unexpected axes combination Y1/Y2: voltage (Step)"_s);
     EXPECT_FALSE(
         readEntry(goodEntryWith(u"Y1/Y2"_s, QJsonArray{jsonObject(R"({"Name": "Voltage", "Category": " "})")})));
-    EXPECT_EQ(m_error, u"Unexpected axes combination Y1/Y2: Voltage ( )"_s);
+    EXPECT_EQ(error, u"Unexpected axes combination Y1/Y2: Voltage ( )"_s);
     EXPECT_EQ(list(), QStringList());
 }
 
@@ -198,7 +198,7 @@ TEST_F(AxesCombinationReader, PlaceMarkersInsideANameAreFilledByTheCategory)
     const auto messageFor = [this](const QString& key, const QString& name, const QString& category) {
         const QJsonObject reference{{u"Name"_s, name}, {u"Category"_s, category}};
         EXPECT_FALSE(readEntry(goodEntryWith(key, QJsonArray{reference})));
-        return m_error;
+        return error;
     };
     EXPECT_EQ(messageFor(u"X"_s, u"%1"_s, u"C"_s), u"Unexpected axes combination X: C (%2)"_s);
     EXPECT_EQ(messageFor(u"X"_s, u"%2"_s, u"C"_s), u"Unexpected axes combination X: C (C)"_s);
@@ -213,7 +213,7 @@ TEST_F(AxesCombinationReader, UnknownNameWithoutCategoryContributesNothing)
     EXPECT_TRUE(readEntry(goodEntryWith(u"Y1/Y2"_s, QJsonArray{jsonObject(R"({"Name": "Unknown"})")})));
     EXPECT_TRUE(readEntry(goodEntryWith(u"X"_s, QJsonArray{jsonObject("{}")})));
     EXPECT_EQ(list(), QStringList());
-    EXPECT_EQ(m_error, Untouched);
+    EXPECT_EQ(error, Untouched);
 }
 
 TEST_F(AxesCombinationReader, ReferenceThatIsNoObjectContributesNothing)
@@ -229,13 +229,13 @@ TEST_F(AxesCombinationReader, NameAndCategoryThatAreNoTextsReadAsEmpty)
     for (const QJsonValue& value : valuesOfOtherTypes(QJsonValue::String)) {
         QJsonObject anyCategory = jsonObject(R"({"Name": "Time"})");
         anyCategory.insert(u"Category"_s, value);
-        m_manager.deleteAll();
+        manager.deleteAll();
         EXPECT_TRUE(readEntry(goodEntryWith(u"X"_s, QJsonArray{anyCategory})));
         EXPECT_EQ(list(), QStringList({GoodRecord}));
 
         QJsonObject noName;
         noName.insert(u"Name"_s, value);
-        m_manager.deleteAll();
+        manager.deleteAll();
         EXPECT_TRUE(readEntry(goodEntryWith(u"X"_s, QJsonArray{noName})));
         EXPECT_EQ(list(), QStringList());
     }
@@ -249,9 +249,9 @@ TEST_F(AxesCombinationReader, PairNeedsBothScales)
         for (const QString& key : {u"DEFAULT_SCALE_X"_s, u"DEFAULT_SCALE_Y"_s}) {
             QJsonObject entry = goodEntryWith(key, value);
             entry.remove(u"ORTHONORMAL_AXIS"_s); // looked at later
-            m_error = Untouched;
+            error = Untouched;
             EXPECT_FALSE(readEntry(entry));
-            EXPECT_EQ(m_error, u"Unexpected axes combination default scale"_s);
+            EXPECT_EQ(error, u"Unexpected axes combination default scale"_s);
             EXPECT_EQ(list(), QStringList());
         }
     }
@@ -262,9 +262,9 @@ TEST_F(AxesCombinationReader, PairNeedsTheOrthonormalWord)
     QList<QJsonValue> values = valuesOfOtherTypes(QJsonValue::String);
     values.append(u""_s);
     for (const QJsonValue& value : values) {
-        m_error = Untouched;
+        error = Untouched;
         EXPECT_FALSE(readEntry(goodEntryWith(u"ORTHONORMAL_AXIS"_s, value)));
-        EXPECT_EQ(m_error, u"Unexpected axes combination orthonormal parameter"_s);
+        EXPECT_EQ(error, u"Unexpected axes combination orthonormal parameter"_s);
         EXPECT_EQ(list(), QStringList());
     }
 }
@@ -277,7 +277,7 @@ TEST_F(AxesCombinationReader, WithoutAPairNeitherScalesNorOrthonormalWordAreNeed
     EXPECT_TRUE(readEntry(jsonObject(R"({"X": [{"Name": "Time"}]})")));
     EXPECT_TRUE(readEntry(jsonObject(R"({"X": []})")));
     EXPECT_EQ(list(), QStringList());
-    EXPECT_EQ(m_error, Untouched);
+    EXPECT_EQ(error, Untouched);
 }
 
 TEST_F(AxesCombinationReader, WithoutAnXReferenceNoYReferenceIsLookedUp)
@@ -289,11 +289,11 @@ TEST_F(AxesCombinationReader, WithoutAnXReferenceNoYReferenceIsLookedUp)
 
     entry.insert(u"X"_s, QJsonArray{jsonObject(R"({"Name": "matches nothing"})")});
     EXPECT_FALSE(readEntry(entry));
-    EXPECT_EQ(m_error, u"Unexpected axes combination Y1/Y2: Unknown (Step)"_s);
+    EXPECT_EQ(error, u"Unexpected axes combination Y1/Y2: Unknown (Step)"_s);
 
     entry.insert(u"X"_s, unknown);
     EXPECT_FALSE(readEntry(entry));
-    EXPECT_EQ(m_error, u"Unexpected axes combination X: Unknown (Step)"_s);
+    EXPECT_EQ(error, u"Unexpected axes combination X: Unknown (Step)"_s);
 }
 
 TEST_F(AxesCombinationReader, WhatTheFirstXReferenceYieldedStaysWhenTheSecondFails)
@@ -301,9 +301,9 @@ TEST_F(AxesCombinationReader, WhatTheFirstXReferenceYieldedStaysWhenTheSecondFai
     EXPECT_FALSE(readEntry(goodEntryWith(u"X"_s, jsonValue(R"([
         {"Name": "Time", "Category": "Step"}, {"Name": "Unknown", "Category": "Step"}
     ])"))));
-    EXPECT_EQ(m_error, u"Unexpected axes combination X: Unknown (Step)"_s);
+    EXPECT_EQ(error, u"Unexpected axes combination X: Unknown (Step)"_s);
     EXPECT_EQ(list(), QStringList({GoodRecord}));
-    EXPECT_EQ(m_manager.getYAxesNames(u"Time"_s), QStringList({u"Voltage"_s}));
+    EXPECT_EQ(manager.getYAxesNames(u"Time"_s), QStringList({u"Voltage"_s}));
 }
 
 TEST_F(AxesCombinationReader, WhatTheFirstYReferenceYieldedStaysWhenTheSecondFails)
@@ -311,7 +311,7 @@ TEST_F(AxesCombinationReader, WhatTheFirstYReferenceYieldedStaysWhenTheSecondFai
     EXPECT_FALSE(readEntry(goodEntryWith(u"Y1/Y2"_s, jsonValue(R"([
         {"Name": "Voltage"}, {"Name": "Unknown", "Category": "Step"}
     ])"))));
-    EXPECT_EQ(m_error, u"Unexpected axes combination Y1/Y2: Unknown (Step)"_s);
+    EXPECT_EQ(error, u"Unexpected axes combination Y1/Y2: Unknown (Step)"_s);
     EXPECT_EQ(list(), QStringList({GoodRecord}));
 }
 
@@ -321,7 +321,7 @@ TEST_F(AxesCombinationReader, FailureInTheThirdEntryKeepsWhatWasReadBefore)
         {"Name": "Time", "Category": "Step"}, {"Name": "Voltage", "Category": "Loop"}
     ])"));
     EXPECT_FALSE(readSection(section(QJsonArray{goodEntry(), goodEntry(), third, goodEntry()})));
-    EXPECT_EQ(m_error, u"Unexpected axes combination Y1/Y2: Voltage (Loop)"_s);
+    EXPECT_EQ(error, u"Unexpected axes combination Y1/Y2: Voltage (Loop)"_s);
     EXPECT_EQ(list(),
               QStringList({GoodRecord, GoodRecord, u"Time (Step) / Time (Step), linear / logarithmic, orthonormal"_s}));
 }
@@ -329,26 +329,26 @@ TEST_F(AxesCombinationReader, FailureInTheThirdEntryKeepsWhatWasReadBefore)
 TEST_F(AxesCombinationReader, EntryThatIsNoObjectStopsTheSection)
 {
     EXPECT_FALSE(readSection(section(QJsonArray{goodEntry(), 1, goodEntry()})));
-    EXPECT_EQ(m_error, u"Axes combination is not Json object"_s);
+    EXPECT_EQ(error, u"Axes combination is not Json object"_s);
     EXPECT_EQ(list(), QStringList({GoodRecord}));
 }
 
 TEST_F(AxesCombinationReader, SectionIsAppendedWithoutClearingOrRemovingDuplicates)
 {
-    m_manager.append(AxesCombination());
+    manager.append(AxesCombination());
     EXPECT_TRUE(readSection(section(QJsonArray{goodEntry(), goodEntry()})));
     EXPECT_TRUE(readSection(section(QJsonArray())));
     EXPECT_TRUE(readSection(section(QJsonArray{goodEntry()})));
     EXPECT_EQ(list(), QStringList({described(AxesCombination()), GoodRecord, GoodRecord, GoodRecord}));
-    EXPECT_EQ(m_error, Untouched);
+    EXPECT_EQ(error, Untouched);
 }
 
 TEST_F(AxesCombinationReader, KeysAreCaseSensitive)
 {
     EXPECT_FALSE(readSection(jsonObject(R"({"Axes Combinations": []})")));
-    EXPECT_EQ(m_error, u"Axes combinations array missing"_s);
+    EXPECT_EQ(error, u"Axes combinations array missing"_s);
     EXPECT_FALSE(readEntry(jsonObject(R"({"x": []})")));
-    EXPECT_EQ(m_error, u"Unexpected axes combination X"_s);
+    EXPECT_EQ(error, u"Unexpected axes combination X"_s);
     EXPECT_TRUE(readEntry(goodEntryWith(u"X"_s, QJsonArray{jsonObject(R"({"name": "Time", "category": "Step"})")})));
     EXPECT_EQ(list(), QStringList());
 }
@@ -359,7 +359,7 @@ TEST_F(AxesCombinationReader, RecordsKeepTheirIdentitiesWhenTheCatalogueChanges)
     {
         const TestCatalogue emptied;
         EXPECT_FALSE(readEntry(goodEntry()));
-        EXPECT_EQ(m_error, u"Unexpected axes combination X: Time (Step)"_s);
+        EXPECT_EQ(error, u"Unexpected axes combination X: Time (Step)"_s);
     }
     EXPECT_TRUE(readEntry(goodEntry()));
     EXPECT_EQ(list(), QStringList({GoodRecord, GoodRecord}));

@@ -58,13 +58,13 @@ protected:
     QStringList texts() const
     {
         QStringList result;
-        for (const Element& element : m_list) {
+        for (const Element& element : list) {
             result.append(Labelled<Element>::text(element));
         }
         return result;
     }
 
-    List m_list;
+    List list;
 };
 
 using Elements = testing::Types<AxesCombination, StatisticsChildItem, RagonePlotChildItem>;
@@ -74,16 +74,16 @@ TYPED_TEST_SUITE(ContainerAdaptorOf, Elements);
 
 TYPED_TEST(ContainerAdaptorOf, BaseIgnoresEveryElement)
 {
-    this->m_list.append(this->element(u"first"_s));
-    typename TestFixture::Base base(&this->m_list);
+    this->list.append(this->element(u"first"_s));
+    typename TestFixture::Base base(&this->list);
     base.addElement(this->element(u"ignored"_s));
     EXPECT_EQ(this->texts(), QStringList({u"first"_s}));
 }
 
 TYPED_TEST(ContainerAdaptorOf, AdaptorAppendsCopiesThroughItsBase)
 {
-    this->m_list.append(this->element(u"first"_s));
-    typename TestFixture::Adaptor adaptor(&this->m_list);
+    this->list.append(this->element(u"first"_s));
+    typename TestFixture::Adaptor adaptor(&this->list);
     typename TestFixture::Base& base = adaptor;
     TypeParam added = this->element(u"b"_s);
     base.addElement(added);
@@ -95,10 +95,10 @@ TYPED_TEST(ContainerAdaptorOf, AdaptorAppendsCopiesThroughItsBase)
 
 TYPED_TEST(ContainerAdaptorOf, AdaptorAppendsAnElementOfItsOwnList)
 {
-    this->m_list.append(this->element(u"a"_s));
-    typename TestFixture::Adaptor adaptor(&this->m_list);
+    this->list.append(this->element(u"a"_s));
+    typename TestFixture::Adaptor adaptor(&this->list);
     for (int i = 0; i < 20; ++i) {
-        adaptor.addElement(this->m_list.constFirst());
+        adaptor.addElement(this->list.constFirst());
     }
     EXPECT_EQ(this->texts(), QStringList(21, u"a"_s));
 }

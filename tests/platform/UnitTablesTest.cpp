@@ -17,13 +17,13 @@ using cl::datastorage::UsualUnitOperator;
 
 namespace {
 
-constexpr QLatin1String page(CLCONFIGUI_SOURCE_DIR "/docs/units.md");
+constexpr QLatin1String Page(CLCONFIGUI_SOURCE_DIR "/docs/units.md");
 
 // The cells of every table row of the page whose first cell is not a heading or a rule.
 QList<QStringList> rowsOfPage()
 {
-    QFile file{QString(page)};
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << page.data();
+    QFile file{QString(Page)};
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << Page.data();
     QList<QStringList> rows;
     while (!file.atEnd()) {
         const QString line = QString::fromUtf8(file.readLine()).trimmed();
