@@ -19,7 +19,7 @@ protected:
     {
         return read(
             &UIConfigReaders::readColors,
-            QByteArray("{\"Colors\": {\"Custom colors\": [" + palette + "], \"Default colors\": {" + defaults + "}}}"));
+            QByteArray(R"({"Colors": {"Custom colors": [)" + palette + R"(], "Default colors": {)" + defaults + "}}}"));
     }
 
     /// The default colour of an element, nothing when there is none. A miss must leave the caller's colour alone.

@@ -38,7 +38,7 @@ protected:
         return described(item(category, x, y).getAxesCombination());
     }
 
-    TestCatalogue m_catalogue{
+    TestCatalogue catalogue{
         {u"Time"_s, u"Step"_s},
         {u"Time"_s, u"Cycle"_s},
         {u"Voltage"_s, u"Cycle"_s},
