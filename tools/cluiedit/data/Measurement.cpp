@@ -10,7 +10,7 @@ const std::vector<double>* Measurement::values(const cl::datastorage::DataArrayI
 
 void Measurement::add(const cl::datastorage::DataArrayIdentifier& array, std::vector<double> values)
 {
-    m_values.insert({array.getCategory(), array.getName()}, std::move(values));
+    m_values[{array.getCategory(), array.getName()}] = std::move(values); // insert() would copy
 }
 
 } // namespace cluiedit
