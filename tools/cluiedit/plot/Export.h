@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+class QCustomPlot;
+
+namespace cluiedit {
+
+/// Writes a picture of \p plot, as large as it is shown, to the file \p path, in the format of its suffix: png, svg or
+/// pdf. False with the reason in \p error; then a file that was there stays as it was.
+bool exportPlot(QCustomPlot& plot, const QString& path, QString& error);
+
+/// The filters of a file dialog for the formats.
+QString exportFilters();
+
+} // namespace cluiedit
