@@ -276,18 +276,18 @@ TEST(Suggestion, SeesThroughLettersThatLookAlike)
     EXPECT_EQ(suggestion(u"Voltage\u00A0/ V"_s, known), u"Voltage / V"_s);
     EXPECT_EQ(suggestion(u"\u0410r\u0435\u0430"_s, known), u"Area"_s);
     EXPECT_EQ(suggestion(u"\u0405pecific \u0441\u0430\u0440\u0430city"_s, known), u"Specific capacity"_s);
-    EXPECT_EQ(didYouMean(u"Voltage\u00A0/ V"_s, known),
+    EXPECT_EQ(didYouMean(u"Voltage\u00A0/ V"_s, known).text,
               u" Did you mean \"Voltage / V\"? Character 8 of \"Voltage\u00A0/ V\" is U+00A0, not a blank."_s);
-    EXPECT_EQ(didYouMean(u"V\u043Eltage / V"_s, known),
+    EXPECT_EQ(didYouMean(u"V\u043Eltage / V"_s, known).text,
               u" Did you mean \"Voltage / V\"? Character 2 of \"V\u043Eltage / V\" is U+043E, not \"o\"."_s);
-    EXPECT_EQ(didYouMean(u"Area\u200B"_s, known),
+    EXPECT_EQ(didYouMean(u"Area\u200B"_s, known).text,
               u" Did you mean \"Area\"? Character 5 of \"Area\u200B\" is U+200B, which nobody sees."_s);
-    EXPECT_EQ(didYouMean(u"Ar\U0001F50Bea"_s, known), u" Did you mean \"Area\"?"_s) << "which everybody sees";
+    EXPECT_EQ(didYouMean(u"Ar\U0001F50Bea"_s, known).text, u" Did you mean \"Area\"?"_s) << "which everybody sees";
 }
 
 TEST(Suggestion, NamesTheOddLetterOfTheKnownNameWhereTheOtherHasNone)
 {
-    EXPECT_EQ(didYouMean(u"Sky blue"_s, {u"Sky\u00A0blue"_s}),
+    EXPECT_EQ(didYouMean(u"Sky blue"_s, {u"Sky\u00A0blue"_s}).text,
               u" Did you mean \"Sky\u00A0blue\"? Character 4 of \"Sky\u00A0blue\" is U+00A0, not a blank."_s);
 }
 

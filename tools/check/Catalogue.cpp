@@ -1,7 +1,5 @@
 #include "private/Catalogue.h"
 
-#include "Suggest.h"
-
 #include <batterydata/ClConfigDataArrayManager.h>
 
 using namespace Qt::StringLiterals;
@@ -26,35 +24,38 @@ Catalogue::Catalogue(const cl::batterydata::ClConfigDataArrayManager& arrays)
     }
 }
 
-QString Catalogue::unknownName(const QString& name, const QString& effect) const
+Advice Catalogue::unknownName(const QString& name, const QString& effect) const
 {
-    return u"The catalogue has no array %1: %2.%3"_s.arg(quoted(name), effect, nameMeantBy(name));
+    const Advice advice = nameMeantBy(name);
+    return {u"The catalogue has no array %1: %2.%3"_s.arg(quoted(name), effect, advice.text), advice.instead};
 }
 
-QString Catalogue::nameMeantBy(const QString& name) const
+Advice Catalogue::nameMeantBy(const QString& name) const
 {
     const QString machine = m_namesByMachineName.value(name);
     return machine.isEmpty() ? didYouMean(name, m_names)
-                             : u" That is a machine name: did you mean %1?"_s.arg(quoted(machine));
+                             : Advice(u" That is a machine name: did you mean %1?"_s.arg(quoted(machine)), machine);
 }
 
-QString Catalogue::unknownNameIn(const QString& category, const QString& name, const QString& effect) const
+Advice Catalogue::unknownNameIn(const QString& category, const QString& name, const QString& effect) const
 {
-    QString advice = didYouMean(name, m_namesByCategory.value(category));
+    Advice advice = didYouMean(name, m_namesByCategory.value(category));
     const QStringList others = categoriesOf(name);
     if (!others.isEmpty()) {
-        advice.prepend(u" There is one in "_s + listed(others) + u'.');
+        advice.text.prepend(u" There is one in "_s + listed(others) + u'.');
     }
-    return u"The category %1 has no array %2: %3.%4"_s.arg(quoted(category), quoted(name), effect, advice);
+    advice.text = u"The category %1 has no array %2: %3.%4"_s.arg(quoted(category), quoted(name), effect, advice.text);
+    return advice;
 }
 
-QString Catalogue::unknownCategory(const QString& category, const QString& effect) const
+Advice Catalogue::unknownCategory(const QString& category, const QString& effect) const
 {
-    QString advice = didYouMean(category, m_categories);
-    if (advice.isEmpty()) {
-        advice = u" The categories are %1."_s.arg(m_categories.join(u", "_s));
+    Advice advice = didYouMean(category, m_categories);
+    if (advice.text.isEmpty()) {
+        advice.text = u" The categories are %1."_s.arg(m_categories.join(u", "_s));
     }
-    return u"The catalogue has no category %1: %2.%3"_s.arg(quoted(category), effect, advice);
+    advice.text = u"The catalogue has no category %1: %2.%3"_s.arg(quoted(category), effect, advice.text);
+    return advice;
 }
 
 } // namespace cluiconfig::check

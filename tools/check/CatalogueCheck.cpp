@@ -66,7 +66,7 @@ QString aUnitOf(PhysicalParameter parameter)
 }
 
 /// ` Did you mean "µV"?`, and where the difference is if nobody can see it.
-QString didYouMeanUnit(const QString& symbol, const QStringList& meant)
+Advice didYouMeanUnit(const QString& symbol, const QStringList& meant)
 {
     const auto seen = [](const QString& text) { return text.normalized(QString::NormalizationForm_KC); };
     const auto codePoint = [](QChar c) { return u"U+%1"_s.arg(c.unicode(), 4, 16, QChar(u'0')).toUpper(); };
@@ -78,10 +78,10 @@ QString didYouMeanUnit(const QString& symbol, const QStringList& meant)
             advice += u", with %1 instead of %2"_s.arg(codePoint(*right), codePoint(*wrong));
         }
     }
-    return advice + u'?';
+    return {advice + u'?', meant.size() == 1 ? first : QString()};
 }
 
-QString adviceOnUnit(const QString& symbol, PhysicalParameter parameter)
+Advice adviceOnUnit(const QString& symbol, PhysicalParameter parameter)
 {
     const QStringList meant = meantUnits(symbol, parameter);
     if (!meant.isEmpty() && !meant.contains(symbol)) {
@@ -92,7 +92,7 @@ QString adviceOnUnit(const QString& symbol, PhysicalParameter parameter)
         : u" Write %1."_s.arg(aUnitOf(parameter));
 }
 
-QString wrongUnit(const QString& symbol, PhysicalParameter parameter, const QString& refuses)
+Advice wrongUnit(const QString& symbol, PhysicalParameter parameter, const QString& refuses)
 {
     const PhysicalParameter measured = measuredBy(symbol);
     const QString quantity = Converter::toString(measured);
@@ -104,7 +104,8 @@ QString wrongUnit(const QString& symbol, PhysicalParameter parameter, const QStr
         : measured == PhysicalParameter::None
         ? u"The unit %1 measures nothing that the application knows"_s.arg(quoted(symbol))
         : u"The unit %1 measures %2, not %3"_s.arg(quoted(symbol), quantity, Converter::toString(parameter));
-    return u"%1: %2.%3"_s.arg(what, refuses, adviceOnUnit(symbol, parameter));
+    const Advice advice = adviceOnUnit(symbol, parameter);
+    return {u"%1: %2.%3"_s.arg(what, refuses, advice.text), advice.instead};
 }
 
 /// The unit must measure the quantity, so that one does not go without the other.
@@ -127,8 +128,9 @@ void checkUnit(const Value& array, Findings& findings)
     }
     if (!Converter::getUnitFromString(symbol)) {
         findings.report(Rule::UnknownUnit, *unit, [&](bool /*isRefused*/) {
-            return u"There is no unit %1: %2.%3"_s.arg(
-                quoted(symbol), findings.refuses(), adviceOnUnit(symbol, parameter.value_or(PhysicalParameter::None)));
+            const Advice advice = adviceOnUnit(symbol, parameter.value_or(PhysicalParameter::None));
+            return Advice(u"There is no unit %1: %2.%3"_s.arg(quoted(symbol), findings.refuses(), advice.text),
+                          advice.instead);
         });
     } else if (parameter && measuredBy(symbol) != *parameter) {
         findings.report(Rule::WrongUnit, *unit,

@@ -23,8 +23,10 @@ QSet<QString> checkDefaults(const Value& defaults, const QStringList& palette, F
         used.insert(name);
         if (element.json().isString() && !known.contains(name)) {
             findings.warn(Rule::UnknownColor, element, [&] {
-                return u"The palette has no colour %1: %2 gets no colour.%3"_s.arg(quoted(name), quoted(element.key()),
-                                                                                   didYouMean(name, palette));
+                const Advice advice = didYouMean(name, palette);
+                return Advice(u"The palette has no colour %1: %2 gets no colour.%3"_s.arg(
+                                  quoted(name), quoted(element.key()), advice.text),
+                              advice.instead);
             });
         }
     });

@@ -14,6 +14,7 @@ struct Finding
     qsizetype offset = 0; ///< of the place, in bytes
     QString pointer;
     QString message; ///< what happens, and what to write instead
+    QString instead{}; ///< The text to put in place of the JSON string or key at the offset; empty if none is known.
     qsizetype line = 1;
     qsizetype column = 1; ///< in characters
     QString

@@ -41,6 +41,11 @@ bool Findings::isKept(Rule rule, Severity severity, qsizetype offset)
     return std::ssize(ofRule.kept) < MostOfARule || offset < ofRule.kept.front().finding.offset;
 }
 
+Finding Findings::made(Rule rule, Severity severity, qsizetype offset, const QString& pointer, const Advice& advice)
+{
+    return {rule, severity, offset, pointer, advice.text, advice.instead};
+}
+
 void Findings::keep(const Finding& finding)
 {
     // A heap with the last one of the document in front.
@@ -85,6 +90,7 @@ QList<Finding> Findings::list() const
         if (others > 0) {
             Kept summary = ofRule.kept.front();
             summary.finding.severity = ofRule.worst;
+            summary.finding.instead.clear();
             summary.finding.message =
                 u"%1 more findings of this rule follow, %2 in all."_s.arg(others).arg(ofRule.count);
             all.push_back(summary);

@@ -15,12 +15,14 @@ void checkProcessFormula(const Value& section, const Context& with)
         const QString name = group.key();
         if (!groups.contains(name)) {
             with.findings.warnAtKey(Rule::FormulaGroup, group, [&] {
-                const QString advice = didYouMean(name, groups);
-                return u"The application offers the formulas of %1 for the second Y axis, as those of every group that "
-                       "is neither %2 nor %3.%4"_s.arg(
-                           quoted(name), quoted(keys::XFormulas), quoted(keys::Y1Formulas),
-                           advice.isEmpty() ? u" Call it %1 if that is meant."_s.arg(quoted(keys::Y2Formulas))
-                                            : advice);
+                const Advice advice = didYouMean(name, groups);
+                const QString text =
+                    u"The application offers the formulas of %1 for the second Y axis, as those of "
+                    "every group that is neither %2 nor %3.%4"_s.arg(
+                        quoted(name), quoted(keys::XFormulas), quoted(keys::Y1Formulas),
+                        advice.text.isEmpty() ? u" Call it %1 if that is meant."_s.arg(quoted(keys::Y2Formulas))
+                                              : advice.text);
+                return Advice(text, insteadOfKey(advice.instead, section));
             });
         }
     });

@@ -67,9 +67,11 @@ bool checkTitle(const Value& place, const QString& what, const QStringList& know
     const bool isKnown = known.contains(place.text());
     if (!isKnown) {
         with.findings.warn(Rule::UnknownTitle, place, [&] {
-            const QString near = didYouMean(place.text(), known);
-            return u"There is no %1 %2: the entry adds nothing.%3"_s.arg(
-                what, quoted(place.text()), near.isEmpty() ? u" `cluiconfig show` lists them."_s : near);
+            const Advice near = didYouMean(place.text(), known);
+            return Advice(
+                u"There is no %1 %2: the entry adds nothing.%3"_s.arg(
+                    what, quoted(place.text()), near.text.isEmpty() ? u" `cluiconfig show` lists them."_s : near.text),
+                near.instead);
         });
     }
     return isKnown;

@@ -178,8 +178,11 @@ public:
             const QJsonArray names = schema.value("enum"_L1).toArray();
             m_value.forEach([&](const Value& member) {
                 if (!names.contains(member.key())) {
-                    m_validation.findings.warnAtKey(
-                        Rule::UnknownWord, member, [&] { return unknownWordMessage(member.key(), schema, QString()); });
+                    m_validation.findings.warnAtKey(Rule::UnknownWord, member, [&] {
+                        Advice advice = unknownWordMessage(member.key(), schema, QString());
+                        advice.instead = insteadOfKey(advice.instead, m_value);
+                        return advice;
+                    });
                 }
             });
         }

@@ -1,7 +1,5 @@
 #include "private/StructureMessages.h"
 
-#include "Suggest.h"
-
 #include <QColor>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -147,25 +145,27 @@ QStringList keysMeantBy(const QString& key, const QJsonObject& object, const QJs
     return lacking;
 }
 
-QString unknownKeyMessage(const QString& key, const QStringList& meant, const QJsonObject& schema)
+Advice unknownKeyMessage(const QString& key, const QStringList& meant, const QJsonObject& schema)
 {
-    const QString advice = meant.isEmpty() ? u" Remove it."_s
-        : meant.size() == 1                ? didYouMean(key, meant.first())
-                                           : u" Did you mean %1?"_s.arg(alternatives(meant));
+    Advice advice = meant.isEmpty() ? Advice(u" Remove it."_s)
+        : meant.size() == 1         ? didYouMean(key, meant.first())
+                                    : Advice(u" Did you mean %1?"_s.arg(alternatives(meant)));
     const QString given = schema.value(EffectKey).toObject().value("additionalProperties"_L1).toString();
-    return u"The application does not know the key %1 and ignores it%2.%3"_s.arg(
-        quoted(key), given.isEmpty() ? QString() : u": "_s + given, advice);
+    advice.text = u"The application does not know the key %1 and ignores it%2.%3"_s.arg(
+        quoted(key), given.isEmpty() ? QString() : u": "_s + given, advice.text);
+    return advice;
 }
 
-QString unknownWordMessage(const QString& word, const QJsonObject& schema, const QString& refusal)
+Advice unknownWordMessage(const QString& word, const QJsonObject& schema, const QString& refusal)
 {
-    QString advice = didYouMean(word, words(schema));
-    if (advice.isEmpty()) {
+    Advice advice = didYouMean(word, words(schema));
+    if (advice.text.isEmpty()) {
         const QString command = schema.value("x-listed-by"_L1).toString();
-        advice = u" Write %1."_s.arg(command.isEmpty() ? expected(schema)
-                                                       : u"one of the names that `%1` lists"_s.arg(command));
+        advice.text = u" Write %1."_s.arg(command.isEmpty() ? expected(schema)
+                                                            : u"one of the names that `%1` lists"_s.arg(command));
     }
-    return u"%1 means nothing here: %2.%3"_s.arg(quoted(word), effect(schema, EnumKey, refusal), advice);
+    advice.text = u"%1 means nothing here: %2.%3"_s.arg(quoted(word), effect(schema, EnumKey, refusal), advice.text);
+    return advice;
 }
 
 QString emptyTextMessage(const Value& value, const QJsonObject& schema, const QString& refusal)

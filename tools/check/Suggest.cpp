@@ -179,16 +179,16 @@ QString suggestion(const QString& text, const QStringList& known)
     return best;
 }
 
-QString didYouMean(const QString& text, const QStringList& known)
+Advice didYouMean(const QString& text, const QStringList& known)
 {
     const QString meant = suggestion(text, known);
-    return meant.isEmpty() ? QString() : didYouMean(text, meant);
+    return meant.isEmpty() ? Advice() : didYouMean(text, meant);
 }
 
-QString didYouMean(const QString& text, const QString& meant)
+Advice didYouMean(const QString& text, const QString& meant)
 {
     const QString odd = oddLetter(text, meant);
-    return u" Did you mean "_s + quoted(meant) + u'?' + (odd.isEmpty() ? oddLetter(meant, text) : odd);
+    return {u" Did you mean "_s + quoted(meant) + u'?' + (odd.isEmpty() ? oddLetter(meant, text) : odd), meant};
 }
 
 QString alternatives(const QStringList& names)

@@ -21,7 +21,10 @@ void checkKind(const Value& kind, const Context& with)
             checkColumns(columns, category, with);
         } else {
             with.findings.warnAtKey(Rule::UnknownCategory, columns, [&] {
-                return with.catalogue.unknownCategory(category, u"the table gets only empty columns from it"_s);
+                Advice advice =
+                    with.catalogue.unknownCategory(category, u"the table gets only empty columns from it"_s);
+                advice.instead = insteadOfKey(advice.instead, kind);
+                return advice;
             });
         }
     });

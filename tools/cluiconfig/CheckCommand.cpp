@@ -61,7 +61,8 @@ check::Severities severities(const std::vector<std::string>& arguments)
             }
             throw CLI::ValidationError("--rule",
                                        QString(u"there is no rule "_s + check::quoted(name) + u'.'
-                                               + check::didYouMean(name, names) + u" --list-rules lists them all."_s)
+                                               + check::didYouMean(name, names).text
+                                               + u" --list-rules lists them all."_s)
                                            .toStdString());
         }
         if (!severity) {

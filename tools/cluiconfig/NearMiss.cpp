@@ -39,7 +39,7 @@ QStringList abbreviated(const QString& name, const QStringList& known, int most)
 
 QString didYouMean(const QString& name, const QStringList& known)
 {
-    const QString near = check::didYouMean(name, known);
+    const QString near = check::didYouMean(name, known).text;
     const QStringList names = near.isEmpty() ? abbreviated(name, known, MostSuggestions) : QStringList();
     return names.isEmpty() ? near : u" Did you mean "_s + check::alternatives(names) + u'?';
 }

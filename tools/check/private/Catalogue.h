@@ -1,5 +1,7 @@
 #pragma once
 
+#include <check/Suggest.h>
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -26,12 +28,12 @@ public:
 
     /// What to say of a name that the catalogue lacks, of one that a category lacks, and of a category that the
     /// catalogue lacks. \p effect says what happens then.
-    QString unknownName(const QString& name, const QString& effect) const;
-    QString unknownNameIn(const QString& category, const QString& name, const QString& effect) const;
-    QString unknownCategory(const QString& category, const QString& effect) const;
+    Advice unknownName(const QString& name, const QString& effect) const;
+    Advice unknownNameIn(const QString& category, const QString& name, const QString& effect) const;
+    Advice unknownCategory(const QString& category, const QString& effect) const;
 
 private:
-    QString nameMeantBy(const QString& name) const;
+    Advice nameMeantBy(const QString& name) const;
 
     const cl::batterydata::ClConfigDataArrayManager& m_arrays;
     QStringList m_categories;

@@ -5,6 +5,7 @@
 #include <base/Refusals.h>
 #include <check/Finding.h>
 #include <check/Subject.h>
+#include <check/Suggest.h>
 
 #include <QList>
 #include <QString>
@@ -18,11 +19,19 @@ namespace cluiconfig::check {
 /// What happens to what is refused, in a message.
 inline const QString Refuses = QStringLiteral("the application refuses the document");
 
+/// \p meant, in place of a key of \p object; empty where the object has it already.
+inline QString insteadOfKey(const QString& meant, const Value& object)
+{
+    return object.json().toObject().contains(meant) ? QString() : meant;
+}
+
 /// The findings of one document while it is being checked.
 ///
 /// What the readers of the application refuse is known from the start: a finding at such a place is an error, every
 /// other one a warning. The reader of a catalogue, though, stops at its first refusal: what is reported behind that may
 /// be refused as well, and is an error, too.
+///
+/// What a message says may come with what was meant: the functions that make one return a sentence or an Advice.
 ///
 /// Of each rule the first two hundred of the document are kept, and the others only counted, so that a document full of
 /// mistakes takes no more memory than any other.
@@ -130,7 +139,7 @@ private:
     void addWarning(Rule rule, const Value& place, qsizetype offset, Message& message)
     {
         if (isKept(rule, Severity::Warning, offset)) {
-            keep({rule, Severity::Warning, offset, place.pointer(), message()});
+            keep(made(rule, Severity::Warning, offset, place.pointer(), message()));
         }
     }
 
@@ -138,7 +147,7 @@ private:
     void addError(Rule rule, const Value& place, bool isFirst, Message message)
     {
         if (isKept(rule, Severity::Error, place.offset()) || isFirst) {
-            const Finding finding{rule, Severity::Error, place.offset(), place.pointer(), message()};
+            const Finding finding = made(rule, Severity::Error, place.offset(), place.pointer(), message());
             if (isFirst) {
                 m_firstError = finding;
             }
@@ -146,6 +155,7 @@ private:
         }
     }
 
+    static Finding made(Rule rule, Severity severity, qsizetype offset, const QString& pointer, const Advice& advice);
     bool mayBeRefusedAnywhere() const { return m_subject == Subject::Catalogue && !m_refused.empty(); }
     /// Notes that a finding explains \p refused; true when it is the first that explains the first refusal.
     static bool explain(Refused& refused);

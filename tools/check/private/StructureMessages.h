@@ -2,6 +2,8 @@
 
 #include "Document.h"
 
+#include <check/Suggest.h>
+
 #include <QJsonObject>
 #include <QString>
 
@@ -17,9 +19,9 @@ QString missingKeyMessage(const QString& key, const QJsonObject& schema, const Q
 /// The keys that \p object, whose schema is \p schema, lacks and that somebody who wrote \p key may have meant.
 QStringList keysMeantBy(const QString& key, const QJsonObject& object, const QJsonObject& schema);
 /// \p key of an object, with those that may be meant.
-QString unknownKeyMessage(const QString& key, const QStringList& meant, const QJsonObject& schema);
+Advice unknownKeyMessage(const QString& key, const QStringList& meant, const QJsonObject& schema);
 /// \p word is a text or a key; \p schema is that of the words.
-QString unknownWordMessage(const QString& word, const QJsonObject& schema, const QString& refusal);
+Advice unknownWordMessage(const QString& word, const QJsonObject& schema, const QString& refusal);
 QString emptyTextMessage(const Value& value, const QJsonObject& schema, const QString& refusal);
 QString wrongLengthMessage(const Value& value, const QJsonObject& schema, const QString& refusal);
 QString outOfRangeMessage(const Value& value, const QJsonObject& schema);
