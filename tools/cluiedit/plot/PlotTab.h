@@ -48,6 +48,11 @@ public:
     /// \p error.
     bool exportTo(const QString& path, QString& error);
 
+    /// Asks for a file and writes the plot into it.
+    void askAndExport();
+    /// Asks how graphs are to be drawn, and draws them so.
+    void changeRendering();
+
     PlotView& view() { return *m_view; }
 
 protected:
@@ -108,8 +113,6 @@ private:
     void paintCurves();
     void showNotices();
     void showReadout(const QPointF& pixel);
-    void askAndExport();
-    void changeRendering();
 
     AxesCombination combination(Place y) const;
     std::optional<Pair> pairOf(const std::shared_ptr<const Measurement>& measurement, const QString& x,
