@@ -9,7 +9,7 @@ namespace cluiedit {
 
 namespace {
 
-constexpr double InitialCapacity = 2.53; // Ah; between the limits a little less can be used, about the nominal capacity
+constexpr double InitialCapacity = 2.51; // Ah; between the limits a little less can be used, about the nominal capacity
 constexpr double Kelvin = 273.15;
 constexpr double ReferenceTemperature = 25; // °C, at which the resistances are meant
 constexpr double SecondsPerHour = 3600;
@@ -121,6 +121,20 @@ void CellModel::updateResistances()
         * std::exp(ActivationTemperature * (1 / (m_temperature + Kelvin) - 1 / (ReferenceTemperature + Kelvin)));
 }
 
+void CellModel::updateDecays(double seconds)
+{
+    if (seconds != m_decays.seconds) {
+        m_decays = {seconds, std::exp(-std::min(seconds / ChargeTransferTime, 100.0)),
+                    std::exp(-seconds / DiffusionTime), std::exp(-seconds * HeatTransfer / HeatCapacity)};
+    }
+}
+
+void CellModel::temper(double temperature)
+{
+    m_temperature = temperature;
+    updateResistances();
+}
+
 void CellModel::advance(double seconds, double current, double ambient)
 {
     const double mean = (m_current + current) / 2;
@@ -136,12 +150,12 @@ void CellModel::advance(double seconds, double current, double ambient)
     m_charge += charge - lost;
     m_capacity -= lost;
 
+    updateDecays(seconds);
     m_chargeTransferVoltage =
-        relaxed(m_chargeTransferVoltage, chargeTransferResistance(), mean, std::exp(-seconds / ChargeTransferTime));
-    m_diffusionVoltage = relaxed(m_diffusionVoltage, diffusionResistance(), mean, std::exp(-seconds / DiffusionTime));
-
+        relaxed(m_chargeTransferVoltage, chargeTransferResistance(), mean, m_decays.chargeTransfer);
+    m_diffusionVoltage = relaxed(m_diffusionVoltage, diffusionResistance(), mean, m_decays.diffusion);
     const double settled = ambient + heat / HeatTransfer;
-    m_temperature = settled + (m_temperature - settled) * std::exp(-seconds * HeatTransfer / HeatCapacity);
+    m_temperature = settled + (m_temperature - settled) * m_decays.heat;
     m_current = current;
     updateResistances();
 }

@@ -36,6 +36,8 @@ public:
     double currentForVoltage(double voltage, double seconds, double ambient) const;
     /// Has the current jump to \p current.
     void switchTo(double current) { m_current = current; }
+    /// Brings the cell to \p temperature in °C, as a bath does.
+    void temper(double temperature);
 
     double current() const { return m_current; } ///< A
     double voltage() const; ///< V
@@ -49,9 +51,19 @@ public:
     std::complex<double> impedance(double frequency) const;
 
 private:
+    /// How far voltages and temperature keep their distance from where they settle.
+    struct Decays
+    {
+        double seconds = 0; ///< after this time, and so on
+        double chargeTransfer = 1;
+        double diffusion = 1;
+        double heat = 1;
+    };
+
     double chargeTransferResistance() const;
     double diffusionResistance() const;
     void updateResistances();
+    void updateDecays(double seconds);
 
     double m_charge = 0; // Ah that can be taken out
     double m_capacity = 0; // Ah
@@ -61,6 +73,7 @@ private:
     double m_temperature = 0;
     double m_resistanceFactor = 1; // for temperature and age
     double m_chargedThroughput = 0; // Ah
+    Decays m_decays; // of the last time that passed: most times are the same
 };
 
 } // namespace cluiedit

@@ -22,6 +22,13 @@ constexpr double ChargingInterval = 60;
 constexpr double HoldingInterval = 60;
 constexpr double DischargingInterval = 30;
 
+/// Temperature around the cell at \p time: a room that is a little warmer at one time of the day.
+double ambientTemperature(double time)
+{
+    constexpr double SecondsPerDay = 86400;
+    return 25 + 0.4 * std::sin(2 * std::numbers::pi * time / SecondsPerDay);
+}
+
 /// Runs steps of a schedule one after the other.
 class Tester
 {
@@ -59,7 +66,7 @@ private:
         for (double t = 0;; t += nextInterval(t, interval)) {
             const double next = nextInterval(t, interval);
             CellModel after = m_cell;
-            after.advance(next, current, ambientTemperature(m_time));
+            after.advance(next, current, m_ambient);
             if (isBeyond(after)) {
                 advance(timeUntil(isBeyond, next, current), current);
                 break;
@@ -78,7 +85,7 @@ private:
         for (int i = 0; i < 40; ++i) {
             const double middle = (notYet + beyond) / 2;
             CellModel after = m_cell;
-            after.advance(middle, current, ambientTemperature(m_time));
+            after.advance(middle, current, m_ambient);
             (isBeyond(after) ? beyond : notYet) = middle;
         }
         return beyond;
@@ -90,7 +97,7 @@ private:
         beginStep(StepType::Charge, ControlMode::Voltage, EndOfChargeCurrent, Cell::MaximumVoltage);
         for (double t = 0; m_cell.current() > EndOfChargeCurrent; t += nextInterval(t, HoldingInterval)) {
             const double interval = nextInterval(t, HoldingInterval);
-            advance(interval, m_cell.currentForVoltage(Cell::MaximumVoltage, interval, ambientTemperature(m_time)));
+            advance(interval, m_cell.currentForVoltage(Cell::MaximumVoltage, interval, m_ambient));
         }
         endStep();
     }
@@ -129,14 +136,16 @@ private:
 
     void advance(double seconds, double current)
     {
-        m_cell.advance(seconds, current, ambientTemperature(m_time));
+        m_cell.advance(seconds, current, m_ambient);
         m_time += seconds;
-        m_test.records.push_back({m_time, ambientTemperature(m_time), m_cell});
+        m_ambient = ambientTemperature(m_time);
+        m_test.records.push_back({m_time, m_ambient, m_cell});
     }
 
     CyclingTest m_test;
     double m_time = 0;
-    CellModel m_cell{ambientTemperature(0)};
+    double m_ambient = ambientTemperature(0);
+    CellModel m_cell{m_ambient};
     int m_cycle = 0;
     int m_scheduleStep = 0;
     double m_voltageBefore = 0; // the step at hand
@@ -152,12 +161,6 @@ CyclingTest runCyclingTest(int cycles)
         tester.cycle(cycle);
     }
     return tester.take();
-}
-
-double ambientTemperature(double time)
-{
-    constexpr double SecondsPerDay = 86400;
-    return 25 + 0.4 * std::sin(2 * std::numbers::pi * time / SecondsPerDay);
 }
 
 } // namespace cluiedit

@@ -50,7 +50,4 @@ constexpr int CyclesPerLoop = 10;
 /// REQUIRES: \p cycles is positive.
 CyclingTest runCyclingTest(int cycles);
 
-/// Temperature around the cell at \p time: a room that is a little warmer in the afternoon.
-double ambientTemperature(double time);
-
 } // namespace cluiedit

@@ -102,7 +102,8 @@ void addStepArrays(const DemonstrationRows& rows, const uiconfig::Catalogue& cat
 void addCycleArrays(const DemonstrationRows& rows, const uiconfig::Catalogue& catalogue, Measurement& to);
 /// The spectrum of the cell at the end of the test.
 void addImpedanceArrays(const DemonstrationRows& rows, const uiconfig::Catalogue& catalogue, Measurement& to);
-/// The differential capacity of three charges: the first, one in the middle and the last.
+/// The differential capacity of three cycles, the first, one in the middle and the last: up with the voltage and down
+/// again.
 void addDifferentialArrays(const DemonstrationRows& rows, const uiconfig::Catalogue& catalogue, Measurement& to);
 /// Discharges of a new cell at constant powers.
 void addRagoneArrays(const uiconfig::Catalogue& catalogue, Measurement& to);

@@ -40,17 +40,25 @@ CellModel fullCell(double& energy)
     return test.records[end - 1].cell;
 }
 
+/// In a bath, which takes away the heat of high powers.
 PowerDischarge discharge(CellModel cell, double power)
 {
     PowerDischarge result;
     result.power = power;
     const double interval = SecondsPerHour * 9 / power / 500; // some five hundred for the energy of the cell, 9 Wh
+    cell.temper(Room);
     cell.switchTo(-power / cell.voltage());
-    while (cell.voltage() > Cell::MinimumVoltage) {
-        const double current = -power / cell.voltage();
-        result.charge -= (cell.current() + current) / 2 * interval / SecondsPerHour;
+    double voltage = cell.voltage();
+    while (voltage > Cell::MinimumVoltage) {
+        const double current = -power / voltage;
+        const double charge = -(cell.current() + current) / 2 * interval / SecondsPerHour;
         cell.advance(interval, current, Room);
-        result.time += interval;
+        cell.temper(Room);
+        const double share =
+            cell.voltage() < Cell::MinimumVoltage ? (voltage - Cell::MinimumVoltage) / (voltage - cell.voltage()) : 1;
+        result.charge += share * charge;
+        result.time += share * interval;
+        voltage = cell.voltage();
     }
     result.energy = power * result.time / SecondsPerHour;
     return result;
@@ -60,7 +68,7 @@ PowerDischarge discharge(CellModel cell, double power)
 
 void addRagoneArrays(const uiconfig::Catalogue& catalogue, Measurement& measurement)
 {
-    constexpr std::array Powers{0.5, 1.0, 2.0, 4.5, 9.0, 13.5, 18.0, 27.0, 36.0, 45.0}; // W, from C/18 to 5 C
+    constexpr std::array Powers{0.9, 1.8, 3.6, 9.0, 18.0, 27.0, 36.0, 45.0, 60.0, 75.0}; // W, from C/10 to 8 C
     double energyBefore = 0;
     const CellModel full = fullCell(energyBefore);
     std::vector<PowerDischarge> all;

@@ -26,9 +26,13 @@ constexpr double LeadResistance = 0.002; // Ω, between the terminals and the au
 /// them a decade, beginning anew with each step.
 constexpr std::size_t SweepLength = 25;
 
-double sweepFrequency(std::size_t record)
+std::array<double, SweepLength> sweepFrequencies()
 {
-    return std::pow(10.0, 4 - static_cast<double>(record % SweepLength) / 4);
+    std::array<double, SweepLength> frequencies{};
+    for (std::size_t i = 0; i < SweepLength; ++i) {
+        frequencies.at(i) = std::pow(10.0, 4 - static_cast<double>(i) / 4);
+    }
+    return frequencies;
 }
 
 /// The records that belong together with each record: the same step, cycle or loop.
@@ -103,13 +107,15 @@ void addSurroundings(const DemonstrationRows& rows, ArrayWriter& to)
 {
     const std::vector<Record>& records = rows.test.records;
     // The air pressure changes over some days; the cell presses against its fixture as it swells with its charge.
-    const auto airPressure = [&](std::size_t i) { return 101325 + 600 * std::sin(rows.time[i] / 4e5); };
+    std::vector<double> airPressure(rows.size());
+    std::ranges::transform(rows.time, airPressure.begin(),
+                           [](double time) { return 101325 + 600 * std::sin(time / 4e5); });
     const auto appliedPressure = [&](std::size_t i) { return 100e3 + 25e3 * records[i].cell.stateOfCharge(); };
     to.fill(u"Ambient Temperature / degC"_s, [&](std::size_t i) { return records[i].ambient; });
     to.fill(u"Ambient Pressure / Pa"_s, airPressure);
     to.fill(u"Applied Pressure / Pa"_s, appliedPressure);
     to.fill(u"Applied Force / N"_s, [&](std::size_t i) { return appliedPressure(i) * Cell::FaceArea; });
-    to.fill(u"Surface Pressure / Pa"_s, [&](std::size_t i) { return airPressure(i) + appliedPressure(i); });
+    to.fill(u"Surface Pressure / Pa"_s, [&](std::size_t i) { return airPressure[i] + appliedPressure(i); });
     to.fill(u"Relative Humidity / %"_s, [&](std::size_t i) { return 45 - 4 * (records[i].ambient - 25); });
     to.fill(u"Surface Temperature / degC"_s, rows.temperature);
     // Five sensors, from beside the tabs, where it is warmest, to the edge.
@@ -124,7 +130,8 @@ void addSurroundings(const DemonstrationRows& rows, ArrayWriter& to)
 void addImpedances(const DemonstrationRows& rows, const Groups& steps, ArrayWriter& to)
 {
     const std::vector<Record>& records = rows.test.records;
-    const auto frequency = [&](std::size_t i) { return sweepFrequency(i - steps.at(i).begin); };
+    const auto sweep = sweepFrequencies();
+    const auto frequency = [&](std::size_t i) { return sweep.at((i - steps.at(i).begin) % SweepLength); };
     std::vector<std::complex<double>> impedances(rows.size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
         impedances[i] = records[i].cell.impedance(frequency(i));

@@ -22,32 +22,33 @@ constexpr double PerMille = 1000; // Ah in mAh
 struct ChargeCurve
 {
     std::vector<double> voltages; ///< V, the middles of the intervals
-    std::vector<double> charges; ///< Ah that flowed in since the start of the step, there
+    std::vector<double> nets; ///< Ah that flowed in since the start of the test, there
     std::vector<double> slopes; ///< Ah/V
 };
 
 constexpr double IntervalWidth = 0.01; // V
 
-/// REQUIRES: the voltage rises with every record of \p step.
+/// REQUIRES: the voltage rises, or falls, with every record of \p step.
 ChargeCurve chargeCurve(const DemonstrationRows& rows, const CyclingStep& step)
 {
     ChargeCurve curve;
-    const double chargeBefore = step.begin == 0 ? 0 : rows.chargeIn[step.begin - 1];
+    const double direction = step.type == StepType::Charge ? 1 : -1;
+    const auto voltageOf = [&](std::size_t record) { return direction * rows.voltage[record]; }; // rises
+    const auto netOf = [&](std::size_t record) { return rows.chargeIn[record] - rows.chargeOut[record]; };
     std::size_t i = step.begin;
-    const auto chargeAt = [&](double voltage) {
-        while (i + 2 < step.end && rows.voltage[i + 1] < voltage) {
+    const auto netAt = [&](double voltage) {
+        while (i + 2 < step.end && voltageOf(i + 1) < voltage) {
             ++i;
         }
-        const double share = (voltage - rows.voltage[i]) / (rows.voltage[i + 1] - rows.voltage[i]);
-        return std::lerp(rows.chargeIn[i], rows.chargeIn[i + 1], share) - chargeBefore;
+        return std::lerp(netOf(i), netOf(i + 1), (voltage - voltageOf(i)) / (voltageOf(i + 1) - voltageOf(i)));
     };
-    const double begin = std::ceil(rows.voltage[step.begin] / IntervalWidth) * IntervalWidth;
-    double before = chargeAt(begin);
-    for (int n = 1; begin + n * IntervalWidth <= rows.voltage[step.end - 1] + 1e-9; ++n) {
-        const double after = chargeAt(begin + n * IntervalWidth);
-        curve.voltages.push_back(begin + (n - 0.5) * IntervalWidth);
-        curve.charges.push_back((before + after) / 2);
-        curve.slopes.push_back((after - before) / IntervalWidth);
+    const double begin = std::ceil(voltageOf(step.begin) / IntervalWidth) * IntervalWidth;
+    double before = netAt(begin);
+    for (int n = 1; begin + n * IntervalWidth <= voltageOf(step.end - 1) + 1e-9; ++n) {
+        const double after = netAt(begin + n * IntervalWidth);
+        curve.voltages.push_back(direction * (begin + (n - 0.5) * IntervalWidth));
+        curve.nets.push_back((before + after) / 2);
+        curve.slopes.push_back(direction * (after - before) / IntervalWidth);
         before = after;
     }
     return curve;
@@ -131,8 +132,9 @@ void addDifferentialArrays(const DemonstrationRows& rows, const uiconfig::Catalo
     const std::vector<CyclingStep>& steps = rows.test.steps;
     const int last = steps.back().cycle;
     std::vector<double> voltages;
-    std::vector<double> charges; // in the step
     std::vector<double> nets; // since the start of the test
+    std::vector<double> chargesIn; // since the start of the step
+    std::vector<double> chargesOut;
     std::vector<double> slopes;
     std::vector<double> smoothedSlopes;
     std::vector<double> smoothedInverses;
@@ -141,7 +143,7 @@ void addDifferentialArrays(const DemonstrationRows& rows, const uiconfig::Catalo
     for (std::size_t n = 0; n < steps.size(); ++n) {
         const CyclingStep& step = steps[n];
         const bool isWanted = step.cycle == 1 || step.cycle == (last + 1) / 2 || step.cycle == last;
-        if (!isWanted || step.type != StepType::Charge || step.mode != ControlMode::Current) {
+        if (!isWanted || step.mode != ControlMode::Current) {
             continue;
         }
         const ChargeCurve curve = chargeCurve(rows, step);
@@ -149,8 +151,9 @@ void addDifferentialArrays(const DemonstrationRows& rows, const uiconfig::Catalo
         std::vector<double> inverses;
         for (std::size_t i = 0; i < curve.voltages.size(); ++i) {
             voltages.push_back(curve.voltages[i]);
-            charges.push_back(curve.charges[i]);
-            nets.push_back(netBefore + curve.charges[i]);
+            nets.push_back(curve.nets[i]);
+            chargesIn.push_back(std::max(curve.nets[i] - netBefore, 0.0));
+            chargesOut.push_back(std::max(netBefore - curve.nets[i], 0.0));
             slopes.push_back(curve.slopes[i]);
             inverses.push_back(1 / curve.slopes[i]);
             cycles.push_back(step.cycle);
@@ -168,8 +171,8 @@ void addDifferentialArrays(const DemonstrationRows& rows, const uiconfig::Catalo
     to.fill(u"dU/dQ / V/Ah"_s, [&](std::size_t i) { return 1 / slopes[i]; });
     to.fill(u"Smoothed dU/dQ / V/Ah"_s, smoothedInverses);
     to.fill(u"Net Capacity / Ah"_s, nets);
-    to.fill(u"Charging Capacity / Ah"_s, charges);
-    to.fill(u"Discharging Capacity / Ah"_s, [](std::size_t) { return 0; });
+    to.fill(u"Charging Capacity / Ah"_s, chargesIn);
+    to.fill(u"Discharging Capacity / Ah"_s, chargesOut);
     to.fill(u"State of Charge / %"_s, [&](std::size_t i) { return 100 * nets[i] / Cell::NominalCapacity; });
     to.fill(u"Cycle Count / 1"_s, cycles);
     to.fill(u"Step Count / 1"_s, stepNumbers);
