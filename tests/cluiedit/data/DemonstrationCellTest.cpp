@@ -149,6 +149,8 @@ TEST_F(DemonstrationCellTest, CountersIntegrateCurrentAndPower)
     const Values& voltage = row(u"Voltage / V"_s);
     const Values& net = row(u"Net Capacity / Ah"_s);
     const Values& netEnergy = row(u"Net Energy / Wh"_s);
+    const Values& total = row(u"Cumulative Capacity / Ah"_s);
+    const Values& totalEnergy = row(u"Cumulative Energy / Wh"_s);
     double charge = 0;
     double energy = 0;
     for (std::size_t i = 1; i < time.size(); ++i) {
@@ -156,14 +158,14 @@ TEST_F(DemonstrationCellTest, CountersIntegrateCurrentAndPower)
         charge += (current[i] + current[i - 1]) / 2 * hours;
         energy += (current[i] * voltage[i] + current[i - 1] * voltage[i - 1]) / 2 * hours;
         // The jump of the current between two steps lies somewhere in a tenth of a second.
-        ASSERT_NEAR(net[i], charge, 5e-4) << i;
-        ASSERT_NEAR(netEnergy[i], energy, 2e-2) << i;
+        ASSERT_NEAR(net[i], charge, 1e-4 + 1e-5 * total[i]) << i;
+        ASSERT_NEAR(netEnergy[i], energy, 5e-4 + 1e-5 * totalEnergy[i]) << i;
     }
     expectEach(u"Potentiostat"_s, u"Power / W"_s, [&](std::size_t i) { return voltage[i] * current[i]; });
     expectEach(u"Potentiostat"_s, u"State of Charge / %"_s,
                [&](std::size_t i) { return 100 * net[i] / Cell::NominalCapacity; });
-    const Values& total = row(u"Cumulative Capacity / Ah"_s);
     EXPECT_TRUE(std::ranges::is_sorted(total));
+    EXPECT_TRUE(std::ranges::is_sorted(totalEnergy));
 }
 
 TEST_F(DemonstrationCellTest, CountersStartAgainWhereTheirNamesSaySo)
@@ -297,7 +299,10 @@ TEST_F(DemonstrationCellTest, LoopsAddUpTheirCycles)
 TEST_F(DemonstrationCellTest, TheCellAges)
 {
     const Values& retention = cycle(u"Capacity Retention / %"_s);
-    EXPECT_TRUE(std::ranges::is_sorted(retention, std::ranges::greater()));
+    for (std::size_t i = 1; i < retention.size(); ++i) { // a warmer day gives a little more
+        ASSERT_LT(retention[i], retention[i - 1] + 0.05) << i;
+    }
+    EXPECT_TRUE(std::ranges::is_sorted(get(u"Loop"_s, u"Capacity Retention / %"_s), std::ranges::greater_equal()));
     EXPECT_LT(retention.back(), 95);
     EXPECT_GT(retention.back(), 80);
     const Values& resistance = cycle(u"DC Internal Resistance / ohm"_s);

@@ -71,7 +71,7 @@ private:
                 advance(timeUntil(isBeyond, next, current), current);
                 break;
             }
-            advance(next, current);
+            record(next, after);
         }
         endStep();
     }
@@ -136,7 +136,15 @@ private:
 
     void advance(double seconds, double current)
     {
-        m_cell.advance(seconds, current, m_ambient);
+        CellModel after = m_cell;
+        after.advance(seconds, current, m_ambient);
+        record(seconds, after);
+    }
+
+    /// Records \p after, what the cell is like when \p seconds have passed.
+    void record(double seconds, const CellModel& after)
+    {
+        m_cell = after;
         m_time += seconds;
         m_ambient = ambientTemperature(m_time);
         m_test.records.push_back({m_time, m_ambient, m_cell});
