@@ -33,7 +33,7 @@ QString nameWithoutUnit(const Quantity& quantity)
     if (at <= 0) {
         return name;
     }
-    const QString spelt = name.mid(at + Separator.size());
+    const QString spelt = name.mid(at + Separator.size()).replace(u' ', u'·'); // "ohm cm2" is Ω·cm²
     const QString symbol = Converter::toString(quantity.unit);
     const bool isUnit = symbol.isEmpty()
         ? spelt == u"1"
