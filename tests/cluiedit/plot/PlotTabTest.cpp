@@ -534,10 +534,36 @@ TEST_F(PlotTabTest, ReadsOutTheNearestPoint)
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(&view(), &leave);
     EXPECT_EQ(readout(), QString());
+    QTest::keyClick(&view(), Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_TRUE(readout().startsWith(u"Voltage 3.4"_s) && readout().endsWith(u" s"_s));
+    const QString before = readout();
+    QTest::keyClick(&view(), Qt::Key_Right, Qt::ControlModifier);
+    QTest::keyClick(&view(), Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_NE(readout(), before);
     tab.setMeasurements({shared(cell()), shared(cell(u"other.csv"_s))});
     QTest::mouseMove(&view(), QPointF(x + 3, middle().y()).toPoint());
     QTest::qWait(1);
     EXPECT_TRUE(tab.findChild<QLabel*>(u"readout"_s)->toolTip().contains(u"other.csv: Current 1 A at 4"_s));
+}
+
+TEST_F(PlotTabTest, SaysWhenACurveIsNotDrawnAsAWhole)
+{
+    constexpr int Points = 300'000;
+    Measurement cyclic(u"cv.csv"_s);
+    std::vector<double> x;
+    std::vector<double> y;
+    for (int i = 0; i < Points; ++i) {
+        x.push_back(std::cos(i * 0.01));
+        y.push_back(std::sin(i * 0.01) + i * 1e-6);
+    }
+    cyclic.add({TestTime, Potentiostat}, std::move(x));
+    cyclic.add({Voltage, Potentiostat}, std::move(y));
+    tab.setMeasurements({shared(std::move(cyclic))});
+    tab.plot(TestTime, Voltage);
+    EXPECT_EQ(readout(), u"Too many points: only parts and the extremes are drawn of cv.csv."_s);
+    view().xAxis->setRange(0.1, 0.1001);
+    view().draw();
+    EXPECT_EQ(readout(), QString());
 }
 
 TEST_F(PlotTabTest, ExportsPicturesInEachFormat)
@@ -678,6 +704,12 @@ TEST_F(PlotTabTest, EverythingIsVisibleAndReachedByTab)
                 << widget->objectName().toStdString();
         }
     }
+    for (const QString& y2 : {Current, QString(), Current}) { // with a legend or without
+        tab.plot(TestTime, Voltage, y2);
+        EXPECT_EQ(view().legend->visible(), !y2.isEmpty());
+        EXPECT_GT(view().axisRect()->width(), view().width() * 3 / 4);
+        EXPECT_GT(view().axisRect()->height(), view().height() * 3 / 4);
+    }
     tab.activateWindow();
     box(u"representation"_s).setFocus();
     QStringList order;
@@ -689,4 +721,3 @@ TEST_F(PlotTabTest, EverythingIsVisibleAndReachedByTab)
     EXPECT_TRUE(order.indexOf(u"x"_s) < order.indexOf(u"xUnit"_s)
                 && order.indexOf(u"xUnit"_s) < order.indexOf(u"y1"_s));
 }
-

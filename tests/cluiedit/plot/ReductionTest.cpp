@@ -185,7 +185,6 @@ TEST(Reduction, KeepsTheLowestAndHighestOfEveryColumnOfAnyCurve)
         }
         const auto edges = edgesOf(from, to, 1 + random.below(120));
         const Reduction::Amounts amounts{.whole = static_cast<std::size_t>(random.below(300)),
-                                         .target = static_cast<std::size_t>(random.below(3000)),
                                          .most = static_cast<std::size_t>(500 + random.below(2000))};
         const auto picks = curve.picks(edges, amounts);
         EXPECT_LE(picks.points.size(), amounts.most);
@@ -298,7 +297,7 @@ TEST(Reduction, SampledCurvesKeepTheirExtremes)
     const Reduction reduction = reductionOf(curve);
     ASSERT_GT(reduction.binWidth(), 0);
     for (const int columns : {50, 300, 1000, 3000}) {
-        const Reduction::Amounts amounts{.target = 3000, .most = 20'000};
+        const Reduction::Amounts amounts{.most = 20'000};
         const auto edges = edgesOf(100, 900, columns);
         const auto picks = reduction.picks(edges, amounts);
         ASSERT_TRUE(picks.isSampled);

@@ -60,11 +60,14 @@ void DenseGraph::setPoints(std::shared_ptr<const Reduction> points, const UnitSc
     m_scaleY = y;
 }
 
-Reduction::Picks DenseGraph::picks() const
+Reduction::Picks DenseGraph::picks(bool isDrawing) const
 {
     const QCPAxis* axis = keyAxis();
     const QRect frame = axis->axisRect()->rect();
-    const double pixels = std::max(1.0, std::round(frame.width() * parentPlot()->bufferDevicePixelRatio()));
+    constexpr std::size_t PointsPerColumn = 4;
+    const auto aim = static_cast<double>(std::min(m_target, m_amounts.most) / PointsPerColumn);
+    const double pixels =
+        std::max({1.0, std::round(frame.width() * parentPlot()->bufferDevicePixelRatio()), isDrawing ? aim : 0.0});
     const double width = frame.width() / pixels;
     std::vector<double> edges{m_scaleX.own(axis->range().lower)};
     edges.reserve(static_cast<std::size_t>(pixels) + 1);
@@ -93,7 +96,8 @@ std::size_t DenseGraph::nearest(const QPointF& pixel) const
 
 void DenseGraph::draw(QCPPainter* painter)
 {
-    const Reduction::Picks picked = picks();
+    const Reduction::Picks picked = picks(painter->modes().testFlag(QCPPainter::pmVectorized));
+    m_isSampled = picked.isSampled;
     const double margin = 2 + 2 * mPen.widthF();
     const QRectF frame = QRectF(clipRect()).adjusted(-margin, -margin, margin, margin);
     constexpr std::size_t Dense = 3000; // from here on, smooth lines cost much and show nothing

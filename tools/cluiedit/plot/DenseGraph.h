@@ -39,12 +39,16 @@ public:
     const UnitScale& scaleY() const { return m_scaleY; }
 
     void setAmounts(const Reduction::Amounts& amounts) { m_amounts = amounts; }
+    /// A drawing that may be enlarged, which has no pixels, aims at so many points.
+    void setTarget(std::size_t target) { m_target = target; }
     /// Markers are drawn up to this number of points in view.
     void setMostMarkers(std::size_t most) { m_mostMarkers = most; }
     void setMarker(QCPScatterStyle::ScatterShape shape) { m_marker = shape; }
 
-    /// What would be drawn now.
-    Reduction::Picks picks() const;
+    /// What would be drawn now, on the screen or in a drawing.
+    Reduction::Picks picks(bool isDrawing = false) const;
+    /// Whether parts stand for the whole curve as it was drawn last.
+    bool isSampled() const { return m_isSampled; }
     bool hasMarkers(const Reduction::Picks& picks) const { return picks.inView <= m_mostMarkers; }
     /// Where point \p index is drawn.
     QPointF pixel(std::size_t index) const;
@@ -67,7 +71,9 @@ private:
     UnitScale m_scaleX;
     UnitScale m_scaleY;
     Reduction::Amounts m_amounts;
+    std::size_t m_target = 0;
     std::size_t m_mostMarkers = 0;
+    bool m_isSampled = false;
     QCPScatterStyle::ScatterShape m_marker = QCPScatterStyle::ssDisc;
 };
 

@@ -90,8 +90,12 @@ PlotTab::PlotTab(QWidget* parent)
     layout->addWidget(m_readout);
     makeActions();
     connect(m_view, &PlotView::pointed, this, &PlotTab::showReadout);
-    connect(m_view, &PlotView::left, m_readout, &QLabel::clear);
-    connect(m_view, &PlotView::left, m_readout, [this] { m_readout->setToolTip({}); });
+    connect(m_view, &PlotView::left, this, &PlotTab::endReadout);
+    connect(m_view, &QCustomPlot::afterReplot, this, [this] {
+        if (!m_isReadOut) {
+            endReadout();
+        }
+    });
 }
 
 void PlotTab::makeControls(QGridLayout* layout)
@@ -569,7 +573,7 @@ void PlotTab::paintCurves()
     constexpr int WidestLine = 20;
     m_view->legend->clearItems();
     const bool hasBoth = m_rows.at(Y1).quantity && m_rows.at(Y2).quantity;
-    const int room = std::max(m_view->width() / 2, 100);
+    const int room = m_view->roomInLegend();
     for (std::size_t i = 0; i < m_curves.size(); ++i) {
         const Curve& curve = m_curves[i];
         DenseGraph* graph = curve.graph;
@@ -577,19 +581,18 @@ void PlotTab::paintCurves()
         pen.setStyle(curve.place == Y1 ? Qt::SolidLine : Qt::DashLine);
         graph->setPen(pen);
         graph->setMarker(curve.place == Y1 ? QCPScatterStyle::ssDisc : QCPScatterStyle::ssTriangle);
-        graph->setAmounts({.whole = look.minNumberPointsInput,
-                           .target = look.targetNumberPointsInput,
-                           .most = look.maxNumberPointsInput});
+        graph->setAmounts({.whole = look.minNumberPointsInput, .most = look.maxNumberPointsInput});
+        graph->setTarget(look.targetNumberPointsInput);
         graph->setMostMarkers(look.markerVisibilityThresholdEnable
                                   ? static_cast<std::size_t>(std::max(look.markerVisibilityThresholdValue, 0))
                                   : std::numeric_limits<std::size_t>::max());
         const QString name = hasBoth ? tr("%1: %2").arg(curve.name, nameWithoutUnit(curve.y)) : curve.name;
         graph->setName(m_view->fontMetrics().elidedText(name, Qt::ElideMiddle, room));
-        if (i < Legible) {
+        if (i < Legible && m_curves.size() > 1) {
             graph->addToLegend();
         }
     }
-    m_view->legend->setVisible(m_curves.size() > 1);
+    m_view->setLegendShown(m_curves.size() > 1);
     m_view->setGridColor(defaultColor(colors, u"Grid"_s));
 }
 
@@ -689,7 +692,28 @@ void PlotTab::showReadout(const QPointF& pixel)
         parts.append(m_measurements.size() > 1 ? tr("%1: %2 %3 at %4").arg(curve.name, name, y, x)
                                                : tr("%1 %2 at %3").arg(name, y, x));
     }
-    const QString text = parts.join(u"; "_s);
+    m_isReadOut = true;
+    sayBelow(parts.join(u"; "_s));
+}
+
+/// Says instead which curves are not drawn as a whole.
+void PlotTab::endReadout()
+{
+    m_isReadOut = false;
+    QStringList sampled;
+    for (const Curve& curve : m_curves) {
+        if (curve.graph->isSampled()) {
+            sampled.append(curve.name);
+        }
+    }
+    sampled.removeDuplicates();
+    sayBelow(sampled.isEmpty()
+                 ? QString()
+                 : tr("Too many points: only parts and the extremes are drawn of %1.").arg(sampled.join(u", "_s)));
+}
+
+void PlotTab::sayBelow(const QString& text)
+{
     m_readout->setToolTip(text);
     m_readout->setText(m_readout->fontMetrics().elidedText(text, Qt::ElideRight, m_readout->width()));
 }

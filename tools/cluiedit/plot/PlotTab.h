@@ -113,6 +113,8 @@ private:
     void paintCurves();
     void showNotices();
     void showReadout(const QPointF& pixel);
+    void endReadout();
+    void sayBelow(const QString& text);
 
     AxesCombination combination(Place y) const;
     std::optional<Pair> pairOf(const std::shared_ptr<const Measurement>& measurement, const QString& x,
@@ -137,6 +139,7 @@ private:
     QComboBox* m_representations;
     PlotView* m_view;
     QLabel* m_readout;
+    bool m_isReadOut = false; // what somebody points at
 };
 
 } // namespace cluiedit

@@ -66,6 +66,15 @@ PlotView::PlotView(QWidget* parent)
         connect(axis, qOverload<const QCPRange&, const QCPRange&>(&QCPAxis::rangeChanged), this,
                 [this, axis](const QCPRange& range, const QCPRange& before) { keepRange(axis, range, before); });
     }
+    axisRect()->insetLayout()->take(legend);
+    plotLayout()->setRowSpacing(0);
+    legend->setLayer(u"legend"_s);
+    legend->setFillOrder(QCPLayoutGrid::foColumnsFirst);
+    legend->setWrap(2);
+    legend->setBorderPen(Qt::NoPen);
+    legend->setBrush(Qt::NoBrush);
+    legend->setMargins({4, 4, 4, 0});
+    setLegendShown(false);
     new Notices(this); // the plot's
     connect(this, &QCustomPlot::afterLayout, this, &PlotView::keepAspects);
     connect(this, &QCustomPlot::mouseDoubleClick, this, [this] {
@@ -93,6 +102,28 @@ void PlotView::setNotices(const QStringList& notices)
 {
     m_notices = notices;
     setAccessibleDescription(notices.join(u'\n'));
+}
+
+void PlotView::setLegendShown(bool isShown)
+{
+    const bool wasShown = legend->layout() != nullptr;
+    legend->setVisible(isShown);
+    if (isShown && !wasShown) { // above the frame, where it hides nothing
+        constexpr double LeastStretch = 0.001;
+        plotLayout()->insertRow(0);
+        plotLayout()->addElement(0, 0, legend);
+        plotLayout()->setRowStretchFactor(0, LeastStretch);
+    } else if (!isShown && wasShown) {
+        plotLayout()->take(legend);
+        plotLayout()->simplify();
+    }
+}
+
+int PlotView::roomInLegend() const
+{
+    constexpr int Icons = 130; // and the space about them
+    constexpr int Least = 60;
+    return std::max((width() - Icons) / 2, Least);
 }
 
 void PlotView::setGridColor(const std::optional<QColor>& color)
@@ -139,6 +170,7 @@ void PlotView::fitAxis(QCPAxis* axis)
             hasRange = true;
         }
     }
+    axis->setTickLabels(hasRange);
     if (!hasRange) {
         axis->setRange(isLogarithmic ? QCPRange(0.1, 10) : QCPRange(0, 1));
         return;
@@ -232,8 +264,23 @@ void PlotView::move(double right, double up)
     }
 }
 
+/// At the place \p right of the one before, or in the middle.
+void PlotView::point(double right)
+{
+    const QRectF frame = axisRect()->rect();
+    const QPointF before = m_cursor.value_or(frame.center());
+    m_cursor = QPointF(std::clamp(before.x() + right, frame.left(), frame.right()), before.y());
+    emit pointed(*m_cursor);
+}
+
 void PlotView::keyPressEvent(QKeyEvent* event)
 {
+    constexpr double PointStep = 4;
+    const bool isLeft = event->key() == Qt::Key_Left;
+    if (event->modifiers().testFlag(Qt::ControlModifier) && (isLeft || event->key() == Qt::Key_Right)) {
+        point(isLeft ? -PointStep : PointStep);
+        return;
+    }
     constexpr double ZoomStep = 1.25;
     constexpr double MoveStep = 0.1;
     switch (event->key()) {
@@ -270,8 +317,10 @@ void PlotView::mouseMoveEvent(QMouseEvent* event)
 {
     QCustomPlot::mouseMoveEvent(event);
     if (axisRect()->rect().contains(event->pos())) {
-        emit pointed(event->position());
+        m_cursor = event->position();
+        emit pointed(*m_cursor);
     } else {
+        m_cursor.reset();
         emit left();
     }
 }
@@ -279,6 +328,7 @@ void PlotView::mouseMoveEvent(QMouseEvent* event)
 void PlotView::leaveEvent(QEvent* event)
 {
     QCustomPlot::leaveEvent(event);
+    m_cursor.reset();
     emit left();
 }
 
@@ -317,7 +367,6 @@ void PlotView::applyPalette()
 {
     constexpr int GridOpacity = 110;
     constexpr int SubGridOpacity = 50;
-    constexpr int LegendOpacity = 215;
     const QColor text = palette().color(QPalette::Text);
     setBackground(palette().brush(QPalette::Base));
     QColor grid = m_gridColor.value_or(palette().color(QPalette::Mid));
@@ -336,10 +385,6 @@ void PlotView::applyPalette()
         axis->grid()->setSubGridPen(QPen(grid, 1, Qt::DotLine));
     }
     selectionRect()->setPen(QPen(palette().color(QPalette::Highlight)));
-    QColor ground = palette().color(QPalette::Base);
-    ground.setAlpha(LegendOpacity);
-    legend->setBrush(ground);
-    legend->setBorderPen(QPen(palette().color(QPalette::Mid)));
     legend->setTextColor(text);
     legend->setFont(font());
 }

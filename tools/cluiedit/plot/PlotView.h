@@ -17,7 +17,8 @@ namespace cluiedit {
 /// cannot be drawn.
 ///
 /// A drag moves it, the wheel and + and - zoom, the arrow keys move; a drag with Shift, or in the mode for it, zooms to
-/// the rectangle; a double click and Home show everything.
+/// the rectangle; a double click and Home show everything. The mouse, or the arrow keys with Ctrl, point at a place to
+/// be read out.
 class PlotView : public QCustomPlot
 {
     Q_OBJECT
@@ -37,6 +38,10 @@ public:
     using Aspects = std::array<std::optional<double>, 2>;
     void setAspects(const Aspects& aspects) { m_aspects = aspects; }
 
+    void setLegendShown(bool isShown);
+    /// How wide a name in the legend may be.
+    int roomInLegend() const;
+
     void setGridColor(const std::optional<QColor>& color);
     void setLogarithmic(QCPAxis* axis, bool isLogarithmic);
 
@@ -54,9 +59,9 @@ public:
     void draw() { replot(rpImmediateRefresh); }
 
 signals:
-    /// The mouse is over this place of the picture.
+    /// Somebody points at this place of the picture.
     void pointed(const QPointF& pixel);
-    /// The mouse is not over the picture any more.
+    /// Nobody points at the picture any more.
     void left();
 
 protected:
@@ -75,6 +80,7 @@ private:
     void keepAspects();
     void fitAxis(QCPAxis* axis);
     QList<QCPAxis*> shownAxes() const;
+    void point(double right);
     void keepRange(QCPAxis* axis, const QCPRange& range, const QCPRange& before);
 
     QList<DenseGraph*> m_graphs;
@@ -82,6 +88,7 @@ private:
     Aspects m_aspects;
     std::optional<QColor> m_gridColor;
     QList<QCPRange> m_fitted; // ranges as fit() left them
+    std::optional<QPointF> m_cursor; // the place that is read out
     bool m_isFitting = false; // until the next layout
     bool m_zoomsToRectangle = false;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
 #include <queue>
 #include <utility>
 
@@ -94,12 +95,14 @@ public:
         flush();
     }
 
-    void visitLeaves(std::size_t begin, std::size_t end)
+    /// Returns the leaf behind the last one.
+    std::size_t visitLeaves(std::size_t begin, std::size_t end)
     {
-        for (std::size_t i = begin; i < end && !hasTooMany(); ++i) {
-            visit(0, i);
+        for (; begin < end && !hasTooMany(); ++begin) {
+            visit(0, begin);
         }
         flush();
+        return begin;
     }
 
     bool hasTooMany() const { return m_picks.size() > m_most; }
@@ -476,26 +479,53 @@ std::vector<quint32> Reduction::lonely(Columns& columns, const Amounts& amounts,
     return points;
 }
 
+/// Parts of the curve, of at most \p most points: some long ones, at even distances, and short ones all over the curve,
+/// so that a curve that repeats itself is not always met at the same place.
+std::vector<Reduction::Pick> Reduction::parts(const Columns& columns, std::size_t most) const
+{
+    constexpr std::size_t LongParts = 4;
+    constexpr std::size_t Overrun = LeafSize + 8; // of a walk, which ends behind a block or a leaf
+    constexpr double GoldenRatio = 0.618033988749895; // hits upon no period
+    const std::size_t leaves = m_levels.front().size();
+    std::size_t left = most;
+    Columns wider = columns.joined(std::max(1, columns.count() / 2)); // see more of the curve for as many points
+    std::map<std::size_t, std::vector<Pick>> parts; // by leaf
+    std::vector<bool> isTaken(leaves);
+    const auto take = [&](std::size_t begin, std::size_t end, std::size_t mostOfIt) {
+        if (left <= Overrun || isTaken[begin]) {
+            return;
+        }
+        Walk walk(*this, wider, std::min(mostOfIt, left - Overrun));
+        const std::size_t next = walk.visitLeaves(begin, end);
+        std::fill(isTaken.begin() + static_cast<std::ptrdiff_t>(begin),
+                  isTaken.begin() + static_cast<std::ptrdiff_t>(next), true);
+        auto& picks = parts[begin];
+        picks = walk.takePicks();
+        left -= picks.size();
+    };
+    for (std::size_t i = 0; i < LongParts; ++i) {
+        take(leaves * i / LongParts, leaves * (i + 1) / LongParts, most / 2 / LongParts);
+    }
+    for (std::size_t i = 0; i < leaves && left > Overrun; ++i) {
+        const auto at =
+            static_cast<std::size_t>(std::fmod(static_cast<double>(i) * GoldenRatio, 1) * static_cast<double>(leaves));
+        take(at, at + 1, LeafSize);
+    }
+    std::vector<Pick> result;
+    for (const auto& [leaf, picks] : parts) {
+        result.insert(result.end(), picks.begin(), picks.end());
+    }
+    return result;
+}
+
 Reduction::Picks Reduction::sampled(Columns& columns, const Amounts& amounts) const
 {
-    constexpr std::size_t Stretches = 4;
-    constexpr std::size_t Overrun = LeafSize + 8; // of a walk, which ends behind a block or a leaf
     constexpr std::size_t ExtremesPerColumn = 2;
-
     Columns wider = columns.joined(
         static_cast<int>(std::min(amounts.most / 2 / ExtremesPerColumn, static_cast<std::size_t>(columns.count()))));
     std::size_t inView = 0;
     const std::vector<quint32> extremePoints = lonely(wider, amounts, inView);
-    const std::size_t forStretches = std::min(amounts.target, amounts.most - extremePoints.size());
-    const std::size_t forEach = forStretches / Stretches;
-    std::vector<Pick> stretches;
-    for (std::size_t i = 0; i < Stretches && forEach > Overrun; ++i) {
-        const std::size_t leaves = m_levels.front().size();
-        Walk walk(*this, columns, forEach - Overrun);
-        walk.visitLeaves(leaves * i / Stretches, leaves * (i + 1) / Stretches);
-        const std::vector<Pick> points = walk.takePicks();
-        stretches.insert(stretches.end(), points.begin(), points.end());
-    }
+    const std::vector<Pick> stretches = parts(columns, amounts.most - extremePoints.size());
 
     Picks result{.points = {}, .inView = inView, .isSampled = true};
     auto extreme = extremePoints.cbegin();

@@ -54,7 +54,6 @@ public:
     struct Amounts
     {
         std::size_t whole = 4000; ///< Up to so many in the range, all of them.
-        std::size_t target = 8000; ///< What stretches of the curve aim at where they stand for all of it.
         std::size_t most = 32000; ///< Never more. At least 16 are taken for granted.
     };
 
@@ -148,6 +147,7 @@ private:
     std::vector<Bin> extremesOfBins(Columns& columns) const;
     std::vector<Bin> extremesOfPoints(Columns& columns) const;
     std::vector<quint32> lonely(Columns& columns, const Amounts& amounts, std::size_t& inView) const;
+    std::vector<Pick> parts(const Columns& columns, std::size_t most) const;
     Picks sampled(Columns& columns, const Amounts& amounts) const;
     bool areBinsFineEnough(const Columns& columns) const;
 

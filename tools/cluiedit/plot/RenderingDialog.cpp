@@ -48,9 +48,8 @@ RenderingDialog::RenderingDialog(QWidget* parent)
     m_lineWidth->setSuffix(tr(" px"));
     m_hidesMarkers->setObjectName(u"hidesMarkers"_s);
     m_least->setToolTip(tr("Up to so many points in view, each one is drawn."));
-    m_target->setToolTip(tr("A curve that goes back and forth too often to be drawn as a whole is drawn in parts, "
-                            "with about so many points."));
-    m_most->setToolTip(tr("No curve is ever drawn with more points. Of those left out none is lower or higher."));
+    m_target->setToolTip(tr("A curve in an exported drawing, which may be enlarged, aims at so many points."));
+    m_most->setToolTip(tr("No curve is drawn with more points. The lowest and highest ones always stay."));
 
     auto* form = new QFormLayout(this);
     form->addRow(tr("Draw &all points up to:"), m_least);
