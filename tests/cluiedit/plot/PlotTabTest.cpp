@@ -42,7 +42,7 @@ const auto Temperature = u"Surface Temperature / degC"_s;
 
 QByteArray shippedText()
 {
-    QFile file(QStringLiteral(SHIPPED_DATA_DIRECTORY "/UIConfig.json"));
+    QFile file(QString::fromUtf8(SHIPPED_DATA_DIRECTORY "/UIConfig.json"));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     return file.readAll();
 }
