@@ -78,6 +78,14 @@ bool readColors(const QJsonValue& section, const Reading& with)
     return true;
 }
 
+std::optional<QColor> defaultColor(const Colors& colors, const QString& key)
+{
+    const QString name = colors.defaults.value(key);
+    const auto found = std::find_if(colors.custom.cbegin(), colors.custom.cend(),
+                                    [&name](const auto& custom) { return custom.first == name; });
+    return found == colors.custom.cend() ? std::nullopt : std::optional(found->second);
+}
+
 } // namespace uiconfig
 
 bool UIConfig::readColors(const QJsonObject& root, QString& error)
@@ -101,12 +109,7 @@ bool UIConfig::readDefaultColors(const QJsonValue& defaultColors, QString& error
 
 bool UIConfig::getDefaultColor(const QString& key, QColor& color) const
 {
-    const QString name = m_defaultColors.value(key);
-    const auto found = std::find_if(m_customColors.cbegin(), m_customColors.cend(),
-                                    [&name](const auto& custom) { return custom.first == name; });
-    if (found == m_customColors.cend()) {
-        return false;
-    }
-    color = found->second;
-    return true;
+    const std::optional<QColor> found = uiconfig::defaultColor({m_customColors, m_defaultColors}, key);
+    color = found.value_or(color);
+    return found.has_value();
 }

@@ -48,6 +48,10 @@ struct Colors
     QMap<QString, QString> defaults; ///< Key of an element -> name of a colour of the palette.
 };
 
+/// The default colour of the element \p key, which may be an invalid one; nothing when the element has no default, or
+/// its default names no colour of the palette. A palette colour without a name serves every element without a default.
+CLCONFIGUI_EXPORT std::optional<QColor> defaultColor(const Colors& colors, const QString& key);
+
 /// An entry that a recipe may contain.
 struct RecipeEntry
 {

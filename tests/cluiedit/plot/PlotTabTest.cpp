@@ -1,6 +1,7 @@
 #include <cluiedit/plot/CurveColors.h>
 #include <cluiedit/plot/PlotTab.h>
 #include <cluiedit/plot/RenderingDialog.h>
+#include <cluiedit/tabs/ColorVision.h>
 
 #include <batterydata/RawDataCollection.h>
 #include <config/SettingsKeys.h>

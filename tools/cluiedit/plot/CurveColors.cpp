@@ -1,5 +1,7 @@
 #include "CurveColors.h"
 
+#include <cluiedit/tabs/ColorVision.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -10,15 +12,6 @@ namespace cluiedit {
 namespace {
 
 constexpr double LeastContrast = 1.6;
-
-/// From 0 for black to 1 for white, as bright as it looks.
-double luminance(const QColor& color)
-{
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
 
 QColor mixed(const QColor& color, const QColor& other, double share)
 {
@@ -38,23 +31,6 @@ QColor visible(const QColor& color, const QColor& ground, const QColor& text)
 
 } // namespace
 
-double contrast(const QColor& color, const QColor& ground)
-{
-    const auto [dark, light] = std::minmax({luminance(color), luminance(ground)});
-    return (light + 0.05) / (dark + 0.05);
-}
-
-std::optional<QColor> defaultColor(const uiconfig::Colors& colors, const QString& key)
-{
-    const QString name = colors.defaults.value(key);
-    const auto found = std::find_if(colors.custom.cbegin(), colors.custom.cend(),
-                                    [&name](const auto& custom) { return custom.first == name; });
-    if (found == colors.custom.cend() || !found->second.isValid()) {
-        return std::nullopt;
-    }
-    return found->second;
-}
-
 QList<QColor> curveColors(const uiconfig::Colors& colors, qsizetype count, const QColor& ground, const QColor& text)
 {
     QList<QColor> others;
@@ -70,7 +46,7 @@ QList<QColor> curveColors(const uiconfig::Colors& colors, qsizetype count, const
     qsizetype next = 0;
     for (qsizetype i = 0; i < count; ++i) {
         const auto own = defaultColor(colors, u"Curve %1"_s.arg(i + 1, 2, 10, QChar(u'0')));
-        result.append(own ? visible(*own, ground, text) : others.at(next++ % others.size()));
+        result.append(own && own->isValid() ? visible(*own, ground, text) : others.at(next++ % others.size()));
     }
     return result;
 }

@@ -128,7 +128,7 @@ int PlotView::roomInLegend() const
 
 void PlotView::setGridColor(const std::optional<QColor>& color)
 {
-    m_gridColor = color;
+    m_gridColor = color && color->isValid() ? color : std::nullopt;
     applyPalette();
 }
 
