@@ -87,7 +87,7 @@ TEST(Completion, NarrowsNamesToTheCategoryBeside)
 {
     const QStringList ofStep = offeredIn("Axes combinations", R"([{ "X": [{ "Name": "|", "Category": "Step" }] }])");
     EXPECT_THAT(ofStep, Contains(u"End Voltage / V"_s));
-    EXPECT_THAT(ofStep, Not(Contains(u"Test Time / s"_s)));
+    EXPECT_THAT(ofStep, Not(Contains(u"Voltage / V"_s)));
     EXPECT_EQ(offeredIn("Axes combinations", R"([{ "X": [{ "Category": "Step", "Name": "| }] }])"), ofStep)
         << "while it is typed";
     EXPECT_GT(offeredIn("Axes combinations", R"([{ "X": [{ "Name": "|" }] }])").size(), ofStep.size());
@@ -166,22 +166,28 @@ TEST(Completion, NothingIsOfferedWhereAnyTextWillDo)
     EXPECT_THAT(offeredIn(R"([ "|" ])"), IsEmpty());
 }
 
-TEST(Completion, WhatItOffersInTheShippedDocumentAlwaysLoads)
+/// A quarter of the tokens of the shipped document each.
+class CompletionOfTheShippedDocument : public testing::TestWithParam<int>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Quarters, CompletionOfTheShippedDocument, testing::Range(0, 4));
+
+TEST_P(CompletionOfTheShippedDocument, AlwaysLoads)
 {
     const QByteArray text = shippedBytes(u"UIConfig.json"_s);
     ASSERT_TRUE(shipped().verdict.loads);
     const int most = qEnvironmentVariableIntValue("CLCONFIGUI_COMPLETION_ALL") != 0 ? 1'000'000 : 1;
-    Random random(11);
+    Random random(static_cast<unsigned>(GetParam()));
     JsonScanner scanner(text);
     int tokens = 0;
     int tried = 0;
     while (scanner.next()) {
-        if (scanner.sign() != 0) {
+        if (scanner.sign() != 0 || tokens++ % 4 != GetParam()) {
             continue;
         }
         const Candidates found = candidates(text, scanner.token().begin, shipped().configuration);
         ASSERT_EQ(found.begin, scanner.token().begin);
-        ++tokens;
         for (int i = 0; i < std::min<qsizetype>(most, found.list.size()); ++i) {
             const Candidate& candidate = most == 1 ? random.of(found.list) : found.list.at(i);
             QByteArray changed = text;
@@ -193,7 +199,7 @@ TEST(Completion, WhatItOffersInTheShippedDocumentAlwaysLoads)
         }
     }
     EXPECT_GT(tokens, 3000);
-    EXPECT_GT(tried, 2000);
+    EXPECT_GT(tried, 500);
 }
 
 TEST(Completion, SurvivesAnyPlaceInATextThatIsCutOff)

@@ -1,7 +1,6 @@
 #include <check/Check.h>
 #include <cluiedit/reading/Snapshot.h>
 #include <cluiedit/text/CompletionPopup.h>
-#include <cluiedit/text/DocumentPane.h>
 #include <cluiedit/text/Editor.h>
 #include <data/ShippedFile.h>
 #include <support/DocumentMutator.h>
@@ -33,6 +32,8 @@ protected:
     {
         editor.resize(640, 700);
         editor.show();
+        editor.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&editor));
         editor.setFocus();
         editor.setLastGood(makeSnapshot(shippedBytes(u"UIConfig.json"_s), u"UIConfig.json"_s));
     }
@@ -104,6 +105,7 @@ TEST_F(EditorTest, TypingChangesAndUndoRestores)
     type(u"xyz"_s);
     EXPECT_EQ(editor.bytes(), "{ xyz}");
     EXPECT_EQ(changed.size(), 3);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !moved.isEmpty(); }));
     EXPECT_EQ(moved.last().first().toLongLong(), 5);
     EXPECT_TRUE(editor.isModified());
     press(Qt::Key_Z, Qt::ControlModifier);
@@ -246,7 +248,9 @@ TEST_F(EditorTest, OneKeyMendsWhatIsMeant)
     text.replace("\"Representations\"", "\"Reprsentations\"");
     editor.open(text);
     showCheck();
-    editor.goTo(text.indexOf("\"Reprsentations\"") + 20);
+    editor.goTo(text.indexOf("\"Reprsentations\"") + 18);
+    const QString message = editor.findingsAt(text.indexOf("\"Reprsentations\""));
+    ASSERT_TRUE(message.contains("Did you mean"_L1)) << message.toStdString();
     press(Qt::Key_Return, Qt::AltModifier);
     EXPECT_EQ(editor.bytes(), shippedBytes(u"UIConfig.json"_s));
     press(Qt::Key_Z, Qt::ControlModifier);
@@ -357,17 +361,14 @@ TEST_F(EditorTest, GoingSomewhereUnfoldsAndShowsItBelowTheTop)
 {
     const QByteArray text = shippedBytes(u"UIConfig.json"_s);
     editor.open(text);
-    QApplication::processEvents();
-    editor.SendScintilla(QsciScintilla::SCI_FOLDALL, 0UL); // contract
     editor.SendScintilla(QsciScintilla::SCI_COLOURISE, 0UL, -1L);
-    editor.foldAll(true);
+    editor.SendScintilla(QsciScintilla::SCI_FOLDALL, 0UL); // closes all
     const qsizetype place = text.indexOf("\"Green\"");
     const long line = editor.SendScintilla(QsciScintilla::SCI_LINEFROMPOSITION, static_cast<unsigned long>(place));
     ASSERT_FALSE(editor.SendScintilla(QsciScintilla::SCI_GETLINEVISIBLE, static_cast<unsigned long>(line)));
     editor.goTo(place);
     EXPECT_TRUE(editor.SendScintilla(QsciScintilla::SCI_GETLINEVISIBLE, static_cast<unsigned long>(line)));
-    editor.foldAll(false);
-    editor.clearFolds();
+    editor.SendScintilla(QsciScintilla::SCI_FOLDALL, 1UL); // opens all
     editor.goTo(place);
     const long row = line - editor.firstVisibleLine();
     const long rows = editor.SendScintilla(QsciScintilla::SCI_LINESONSCREEN);

@@ -142,10 +142,13 @@ private:
         there.isKey = false;
         there.path.append({key});
         const SchemaPlace schema = schemaAt(there);
-        if (schema.namesArray || schema.namesCategory) {
-            return !categoriesOf(value).isEmpty() || catalogue().getCategories().contains(value);
+        if (schema.namesArray) {
+            return !categoriesOf(value).isEmpty();
         }
-        return (type.isEmpty() || type == typeOf(m_place.value, value));
+        if (schema.namesCategory) {
+            return catalogue().getCategories().contains(value);
+        }
+        return type.isEmpty() || type == typeOf(m_place.value, value);
     }
 
     void addCategories()

@@ -28,6 +28,7 @@ class Editor : public QsciScintilla
 public:
     /// Documents from this size on have no colours and cannot be folded, and completion comes only when it is asked
     /// for.
+    /// Neither have those with lines of more than 100,000 bytes, of which only the beginning is shown.
     static constexpr qsizetype LargeSize = 5'000'000;
 
     explicit Editor(QWidget* parent = nullptr);
@@ -97,6 +98,8 @@ private:
     void setLook();
     void setStyleOfTokens(bool isDark);
     void adaptToSize();
+    void hideLongLines();
+    bool hasLongLine() const;
     void adaptLineNumbers();
     void noteChange(int position, int type, int length);
     bool runCommand(const QKeyEvent& event);

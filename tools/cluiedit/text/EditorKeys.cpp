@@ -104,6 +104,8 @@ void Editor::alignClosing(int letter)
     if ((letter != '}' && letter != ']') || at != SendScintilla(SCI_GETLINEINDENTPOSITION, position(line))) {
         return;
     }
+    // Only brackets of one style match.
+    SendScintilla(SCI_COLOURISE, position(SendScintilla(SCI_GETENDSTYLED)), static_cast<long>(at + 1));
     const long opening = SendScintilla(SCI_BRACEMATCH, position(at), 0L);
     if (opening >= 0) {
         setIndentation(line, indentation(static_cast<int>(SendScintilla(SCI_LINEFROMPOSITION, position(opening)))));

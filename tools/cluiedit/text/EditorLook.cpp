@@ -21,6 +21,10 @@ constexpr int FoldColumn = 2;
 constexpr int FirstFoldSign = 25;
 constexpr int LastFoldSign = 31;
 constexpr int LeastDigits = 4;
+constexpr int HiddenStyle = 60; // beyond those of the lexer
+constexpr int HintStyle = 61;
+constexpr qsizetype LongestLine = 100'000; // bytes; one that is longer takes too long to be measured and drawn
+constexpr qsizetype ShownOfLongLine = 20'000;
 
 /// \p share of \p a, the rest of \p b.
 QColor mixed(const QColor& a, const QColor& b, float share)
@@ -45,8 +49,9 @@ void Editor::setUp()
     setMarginType(SignColumn, SymbolMargin);
     setMarginMarkerMask(SignColumn, (1 << FindingMarks::ErrorSign) | (1 << FindingMarks::WarningSign));
     setMarginWidth(SignColumn, fontMetrics().height());
-    indicatorDefine(FullBoxIndicator, MatchIndicator);
+    indicatorDefine(BoxIndicator, MatchIndicator);
     setIndicatorDrawUnder(true, MatchIndicator);
+    setAnnotationDisplay(AnnotationStandard);
     SendScintilla(SCI_SETSCROLLWIDTH, 1UL);
     SendScintilla(SCI_SETSCROLLWIDTHTRACKING, 1UL);
     // A byte-order mark has no shape of its own.
@@ -73,6 +78,8 @@ void Editor::setLook()
         setMarkerForegroundColor(margin, sign);
         setMarkerBackgroundColor(faint, sign);
     }
+    SendScintilla(SCI_STYLESETFORE, HintStyle, faint);
+    SendScintilla(SCI_STYLESETBACK, HintStyle, margin);
     setCaretForegroundColor(text);
     setCaretLineBackgroundColor(mixed(text, base, 0.07F));
     setSelectionBackgroundColor(palette().color(QPalette::Highlight));
@@ -81,7 +88,7 @@ void Editor::setLook()
     setMatchedBraceForegroundColor(text);
     setUnmatchedBraceBackgroundColor(base);
     setUnmatchedBraceForegroundColor(text);
-    setIndicatorForegroundColor(isDark ? QColor(120, 100, 0) : QColor(255, 225, 90), MatchIndicator);
+    setIndicatorForegroundColor(isDark ? QColor(240, 200, 70) : QColor(190, 130, 0), MatchIndicator);
     m_marks.setLook(isDark);
     setStyleOfTokens(isDark);
     adaptLineNumbers();
@@ -113,13 +120,48 @@ void Editor::setStyleOfTokens(bool isDark)
 
 void Editor::adaptToSize()
 {
-    QsciLexer* const wanted = isLarge() ? nullptr : m_lexer;
+    const bool isPlain = isLarge() || hasLongLine();
+    QsciLexer* const wanted = isPlain ? nullptr : m_lexer;
     if (lexer() != wanted) {
         setLexer(wanted);
         setLook();
     }
-    setFolding(isLarge() ? NoFoldStyle : BoxedTreeFoldStyle, FoldColumn);
+    hideLongLines();
+    setFolding(isPlain ? NoFoldStyle : BoxedTreeFoldStyle, FoldColumn);
     adaptLineNumbers();
+}
+
+void Editor::hideLongLines()
+{
+    clearAnnotations();
+    const QByteArray text = view();
+    qsizetype end = 0;
+    for (qsizetype begin = 0; begin < text.size(); begin = end + 1) {
+        end = text.indexOf('\n', begin);
+        end = end < 0 ? text.size() : end;
+        if (end - begin <= LongestLine) {
+            continue;
+        }
+        SendScintilla(SCI_STYLESETVISIBLE, HiddenStyle, 0L);
+        SendScintilla(SCI_STARTSTYLING, static_cast<unsigned long>(begin + ShownOfLongLine), 0L);
+        SendScintilla(SCI_SETSTYLING, static_cast<unsigned long>(end - begin - ShownOfLongLine),
+                      static_cast<long>(HiddenStyle));
+        const auto line = SendScintilla(SCI_LINEFROMPOSITION, static_cast<unsigned long>(begin));
+        annotate(static_cast<int>(line), tr("Of this very long line only the beginning is shown."), HintStyle);
+    }
+}
+
+bool Editor::hasLongLine() const
+{
+    const QByteArray text = view();
+    qsizetype begin = 0;
+    for (qsizetype end = text.indexOf('\n'); end >= 0; end = text.indexOf('\n', begin)) {
+        if (end - begin > LongestLine) {
+            return true;
+        }
+        begin = end + 1;
+    }
+    return text.size() - begin > LongestLine;
 }
 
 void Editor::adaptLineNumbers()

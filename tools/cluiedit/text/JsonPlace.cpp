@@ -114,6 +114,7 @@ private:
     {
         if (sign == '{' || sign == '[') {
             m_frames.push_back({sign == '{'});
+            ++openOf(sign == '{');
         } else if (sign == '}' || sign == ']') {
             close(sign == '}');
         } else if (!m_frames.empty()) {
@@ -123,21 +124,26 @@ private:
         }
     }
 
+    /// How many objects, or lists, are open.
+    qsizetype& openOf(bool isObject) { return isObject ? m_openObjects : m_openLists; }
+
     /// Closes the innermost object or list, and what was opened in it and not closed. What was never opened is passed
     /// over.
     void close(bool isObject)
     {
-        const auto open = std::find_if(m_frames.rbegin(), m_frames.rend(),
-                                       [&](const Frame& frame) { return frame.isObject == isObject; });
-        if (open == m_frames.rend()) {
+        if (openOf(isObject) == 0) {
             return;
         }
+        const auto open = std::find_if(m_frames.rbegin(), m_frames.rend(),
+                                       [&](const Frame& frame) { return frame.isObject == isObject; });
         const auto first = std::prev(open.base());
         if (m_isFound && std::distance(m_frames.begin(), first) < m_depth) {
             collect();
             return;
         }
-        m_frames.erase(first, m_frames.end());
+        for (; m_frames.end() != first; m_frames.pop_back()) {
+            --openOf(m_frames.back().isObject);
+        }
         if (!m_frames.empty()) {
             ++m_frames.back().count;
             m_frames.back().isBehindColon = false;
@@ -194,6 +200,8 @@ private:
     JsonScanner m_scanner;
     std::vector<Frame> m_frames;
     JsonPlace m_place;
+    qsizetype m_openObjects = 0;
+    qsizetype m_openLists = 0;
     qsizetype m_depth = 0; // of the nearest object around the place; 0 where there is none
     bool m_isFound = false;
     bool m_isDone = false;
