@@ -277,6 +277,7 @@ TEST_F(EditorTest, CompletesWhileOneTypes)
     type(u"\"di"_s);
     ASSERT_TRUE(popup().isVisible());
     EXPECT_EQ(popup().topLevelItem(0)->text(0), u"Divide"_s);
+    EXPECT_LT(popup().width(), 200) << "no wider than what it lists";
     press(Qt::Key_Return);
     EXPECT_FALSE(popup().isVisible());
     EXPECT_EQ(editor.bytes(), "{ \"MSVUnits\": [{ \"Operator\": \"Divide\" }] }");

@@ -61,19 +61,21 @@ void CompletionPopup::present(const QList<Candidate>& list, qsizetype current, c
 
 void CompletionPopup::layOut(const QRect& place)
 {
+    int labelWidth = 0;
     int noteWidth = 0;
     for (const Candidate& candidate : std::as_const(m_list)) {
+        labelWidth = std::max(labelWidth, fontMetrics().horizontalAdvance(candidate.label));
         noteWidth = std::max(noteWidth, fontMetrics().horizontalAdvance(candidate.note));
     }
     const bool hasNotes = noteWidth > 0;
     setColumnHidden(1, !hasNotes);
-    resizeColumnToContents(0);
-    setColumnWidth(0, columnWidth(0) + Padding);
+    labelWidth += Padding;
+    setColumnWidth(0, labelWidth);
     const int frame = 2 * frameWidth();
     const int scrollBar = m_list.size() > MostRows ? verticalScrollBar()->sizeHint().width() : 0;
     const int notes = hasNotes ? std::min(noteWidth, WidestNote) + Padding : 0;
     const int rows = static_cast<int>(std::min<qsizetype>(m_list.size(), MostRows));
-    QRect area(place.bottomLeft(), QSize(columnWidth(0) + notes + scrollBar + frame, rows * sizeHintForRow(0) + frame));
+    QRect area(place.bottomLeft(), QSize(labelWidth + notes + scrollBar + frame, rows * sizeHintForRow(0) + frame));
     if (const QScreen* const screen = QGuiApplication::screenAt(place.topLeft())) {
         const QRect available = screen->availableGeometry();
         area.setWidth(std::min(area.width(), available.width()));
