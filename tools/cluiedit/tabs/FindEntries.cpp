@@ -218,7 +218,7 @@ QList<qsizetype> matchedPlaces(const QString& query, const QString& text)
 {
     const auto isSame = [](QChar a, QChar b) { return folded(a) == folded(b); };
     QList<qsizetype> places;
-    auto from = std::ranges::search(text, query, isSame).begin();
+    const auto* from = std::search(text.begin(), text.end(), query.begin(), query.end(), isSame);
     const bool isWhole = from != text.end();
     from = isWhole ? from : text.begin();
     for (const QChar letter : query) {
