@@ -143,10 +143,29 @@ private:
             const int column = m_columns.of(m_curve.m_xs[i]);
             const auto at = static_cast<quint32>(i);
             const double y = m_curve.m_ys[i];
-            add(column, Block{.lowestY = y, .highestY = y, .lowest = at, .highest = at, .drawable = 1}, i, i + 1);
+            if (m_run.drawable > 0 && column == m_column) { // as is mostly so, and what costs the time
+                addToRun(y, at, y, at, 1);
+                m_lastBegin = i;
+                m_lastEnd = i + 1;
+            } else {
+                add(column, Block{.lowestY = y, .highestY = y, .lowest = at, .highest = at, .drawable = 1}, i, i + 1);
+            }
             if (m_isWhole && !m_columns.isOutside(column)) {
                 flush();
             }
+        }
+    }
+
+    void addToRun(double lowestY, quint32 lowest, double highestY, quint32 highest, quint32 drawable)
+    {
+        m_run.drawable += drawable;
+        if (lowestY < m_run.lowestY) {
+            m_run.lowestY = lowestY;
+            m_run.lowest = lowest;
+        }
+        if (highestY > m_run.highestY) {
+            m_run.highestY = highestY;
+            m_run.highest = highest;
         }
     }
 
@@ -158,15 +177,7 @@ private:
             m_run = block;
             m_first = m_curve.firstDrawable(begin, end);
         } else {
-            m_run.drawable += block.drawable;
-            if (block.lowestY < m_run.lowestY) {
-                m_run.lowestY = block.lowestY;
-                m_run.lowest = block.lowest;
-            }
-            if (block.highestY > m_run.highestY) {
-                m_run.highestY = block.highestY;
-                m_run.highest = block.highest;
-            }
+            addToRun(block.lowestY, block.lowest, block.highestY, block.highest, block.drawable);
         }
         m_lastBegin = begin;
         m_lastEnd = end;
@@ -232,13 +243,6 @@ Reduction::Reduction(Values x, Values y, double floorX, double floorY)
     if (!m_isSorted) {
         makeBins();
     }
-}
-
-bool Reduction::isDrawable(std::size_t index) const
-{
-    const double x = m_xs[index];
-    const double y = m_ys[index];
-    return std::isfinite(x) && std::isfinite(y) && x > m_floorX && y > m_floorY;
 }
 
 void Reduction::makeLeaves()

@@ -3,6 +3,7 @@
 #include <QPointF>
 #include <QtGlobal>
 
+#include <cmath>
 #include <cstddef>
 #include <functional>
 #include <limits>
@@ -75,7 +76,12 @@ public:
     std::size_t size() const { return m_size; }
     double x(std::size_t index) const { return m_xs[index]; }
     double y(std::size_t index) const { return m_ys[index]; }
-    bool isDrawable(std::size_t index) const;
+    bool isDrawable(std::size_t index) const
+    {
+        const double x = m_xs[index];
+        const double y = m_ys[index];
+        return std::isfinite(x) && std::isfinite(y) && x > m_floorX && y > m_floorY;
+    }
 
     bool hasFloors(double x, double y) const { return m_floorX == x && m_floorY == y; }
 
