@@ -65,13 +65,13 @@ Reduction::Picks DenseGraph::picks(bool isDrawing) const
     const QCPAxis* axis = keyAxis();
     const QRect frame = axis->axisRect()->rect();
     constexpr std::size_t PointsPerColumn = 4;
-    const auto aim = static_cast<double>(std::min(m_target, m_amounts.most) / PointsPerColumn);
-    const double pixels =
-        std::max({1.0, std::round(frame.width() * parentPlot()->bufferDevicePixelRatio()), isDrawing ? aim : 0.0});
-    const double width = frame.width() / pixels;
+    const std::size_t aim = isDrawing ? std::min(m_target, m_amounts.most) / PointsPerColumn : 1;
+    const int pixels = std::max(1, qRound(frame.width() * parentPlot()->bufferDevicePixelRatio()));
+    const int columns = std::max(pixels, static_cast<int>(aim));
+    const double width = static_cast<double>(frame.width()) / columns;
     std::vector<double> edges{m_scaleX.own(axis->range().lower)};
-    edges.reserve(static_cast<std::size_t>(pixels) + 1);
-    for (double column = 1; column < pixels; ++column) {
+    edges.reserve(static_cast<std::size_t>(columns) + 1);
+    for (int column = 1; column < columns; ++column) {
         edges.push_back(std::max(edges.back(), m_scaleX.own(axis->pixelToCoord(frame.left() + column * width))));
     }
     edges.push_back(std::max(edges.back(), m_scaleX.own(axis->range().upper)));
