@@ -30,9 +30,14 @@ need_to_build() {
         rapidjson-dev libvalijson-dev libgtest-dev libgmock-dev
 }
 
-need_to_test() {
+need_to_edit() {
     need_to_build
-    need clang-format python3
+    need libqscintilla2-qt6-dev libcsv-dev libqt6svg6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
+}
+
+need_to_test() {
+    need_to_edit
+    need clang-format python3 xvfb xdotool
 }
 
 # Whether PRESET is configured with all that is installed now, as the presets stand now.

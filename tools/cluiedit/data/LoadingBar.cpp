@@ -25,7 +25,7 @@ LoadingBar::LoadingBar(BackgroundLoad& load, QWidget* parent)
     m_text->setTextFormat(Qt::PlainText);
     m_bar->setRange(0, Steps);
     m_bar->setFixedWidth(fontMetrics().averageCharWidth() * 24);
-    auto* cancel = new QPushButton(tr("&Cancel"));
+    auto* cancel = new QPushButton(tr("Ca&ncel"));
     cancel->setToolTip(tr("Stop loading measurements"));
     cancel->setAccessibleName(tr("Cancel loading"));
     connect(cancel, &QPushButton::clicked, &load, &BackgroundLoad::cancel);
@@ -51,7 +51,7 @@ void LoadingBar::showProgress(const QString& path, double fraction)
 {
     const QString file = QFileInfo(path).fileName();
     const auto waiting = static_cast<int>(m_load.waiting());
-    m_fullText = waiting == 0 ? tr("Loading %1").arg(file) : tr("Loading %1 (%n more to come)", "", waiting).arg(file);
+    m_fullText = waiting == 0 ? tr("Loading %1").arg(file) : tr("Loading %1 (%2 more to come)").arg(file).arg(waiting);
     m_bar->setAccessibleName(m_fullText);
     m_text->setToolTip(path);
     m_bar->setValue(static_cast<int>(fraction * Steps));

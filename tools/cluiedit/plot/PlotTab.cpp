@@ -15,6 +15,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
@@ -168,7 +169,7 @@ void PlotTab::makeActions()
     rectangle->setCheckable(true);
     QAction* copy = add(tr("&Copy picture"), tr("Copy the plot as a picture"), QKeySequence::Copy,
                         [this] { QApplication::clipboard()->setPixmap(m_view->toPixmap()); });
-    QAction* save = add(tr("&Export…"), tr("Save the plot as PNG, SVG or PDF"), {}, [this] { askAndExport(); });
+    QAction* save = add(tr("Ex&port…"), tr("Save the plot as PNG, SVG or PDF"), {}, [this] { askAndExport(); });
     QAction* look = add(tr("Ren&dering…"), tr("Choose how graphs are drawn"), {}, [this] { changeRendering(); });
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
 
@@ -720,7 +721,10 @@ void PlotTab::sayBelow(const QString& text)
 
 void PlotTab::askAndExport()
 {
-    QFileDialog dialog(this, tr("Export the plot"), {}, exportFilters());
+    UIConfig& preferences = lumo::tools::Singleton<UIConfig>::instance();
+    const QString last = preferences.getLastDirectoryExport();
+    QFileDialog dialog(this, tr("Export the plot"), last.isEmpty() ? preferences.getDefaultAppDirectory() : last,
+                       exportFilters());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(u"png"_s);
     connect(&dialog, &QFileDialog::filterSelected, &dialog,
@@ -728,8 +732,10 @@ void PlotTab::askAndExport()
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
+    const QString path = dialog.selectedFiles().value(0);
+    preferences.setLastDirectoryExport(QFileInfo(path).absolutePath());
     QString error;
-    if (!exportTo(dialog.selectedFiles().value(0), error)) {
+    if (!exportTo(path, error)) {
         QMessageBox::warning(this, tr("Export the plot"), error);
     }
 }

@@ -50,15 +50,15 @@ void FindBar::build()
 {
     m_pattern = new QLineEdit;
     m_pattern->setClearButtonEnabled(true);
-    auto* const patternLabel = new QLabel(tr("Fi&nd:"));
+    auto* const patternLabel = new QLabel(tr("Find:"));
     patternLabel->setBuddy(m_pattern);
     m_count = new QLabel;
     m_count->setAccessibleName(tr("How often it was found"));
     m_count->setMinimumWidth(fontMetrics().horizontalAdvance(tr("%1 of %2").arg(9999).arg(9999)));
-    auto* const previous = new QPushButton(tr("&Previous"));
+    auto* const previous = new QPushButton(tr("Previous"));
     previous->setToolTip(tr("Shift+F3"));
     connect(previous, &QPushButton::clicked, this, &FindBar::findPrevious);
-    auto* const next = new QPushButton(tr("Ne&xt"));
+    auto* const next = new QPushButton(tr("Next"));
     next->setToolTip(tr("F3"));
     connect(next, &QPushButton::clicked, this, &FindBar::findNext);
     auto* const closeButton = new QToolButton;
@@ -71,10 +71,10 @@ void FindBar::build()
     m_replacement = new QLineEdit;
     m_replacement->setClearButtonEnabled(true);
     m_replacement->setToolTip(tr("In a regular expression, \\1 stands for what its first group found."));
-    auto* const replacementLabel = new QLabel(tr("Replace &with:"));
+    auto* const replacementLabel = new QLabel(tr("Replace with:"));
     replacementLabel->setBuddy(m_replacement);
-    m_replaceOne = new QPushButton(tr("&Replace"));
-    m_replaceAll = new QPushButton(tr("Replace &all"));
+    m_replaceOne = new QPushButton(tr("Replace"));
+    m_replaceAll = new QPushButton(tr("Replace all"));
 
     auto* const findRow = new QHBoxLayout;
     for (QWidget* const widget : std::initializer_list<QWidget*>{patternLabel, m_pattern, m_count, previous, next}) {
@@ -92,9 +92,9 @@ void FindBar::build()
     }
     replaceRow->setStretchFactor(m_replacement, 1);
 
-    m_matchCase = new QCheckBox(tr("Match &case"));
-    m_wholeWords = new QCheckBox(tr("Wh&ole words"));
-    m_expression = new QCheckBox(tr("Re&gular expression"));
+    m_matchCase = new QCheckBox(tr("Match case"));
+    m_wholeWords = new QCheckBox(tr("Whole words"));
+    m_expression = new QCheckBox(tr("Regular expression"));
     auto* const optionRow = new QHBoxLayout;
     for (QCheckBox* const option : {m_matchCase, m_wholeWords, m_expression}) {
         optionRow->addWidget(option);

@@ -174,7 +174,7 @@ void FindingsPanel::setFindings(const QList<Finding>& findings)
 {
     m_errors = static_cast<int>(std::ranges::count(findings, Severity::Error, &Finding::severity));
     m_warnings = static_cast<int>(findings.size()) - m_errors;
-    m_showsErrors->setText(tr("&Errors (%1)").arg(m_errors));
+    m_showsErrors->setText(tr("Error&s (%1)").arg(m_errors));
     m_showsWarnings->setText(tr("&Warnings (%1)").arg(m_warnings));
     if (!std::ranges::equal(findings, m_model->findings(), isSame)) {
         m_model->setFindings(findings);

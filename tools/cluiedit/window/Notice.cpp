@@ -67,6 +67,7 @@ void Notices::show(const QString& kind, const Notice& notice)
     }
     frame->setAccessibleName(notice.text);
     m_layout->addWidget(frame);
+    frame->show();
     m_frames[kind] = frame;
 }
 

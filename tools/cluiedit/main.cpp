@@ -1,0 +1,102 @@
+#include "CommandLine.h"
+
+#include <base/Singleton.h>
+#include <batterydata/RawDataCollection.h>
+#include <cluiedit/window/Window.h>
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTimer>
+#include <QTranslator>
+
+#include <cstdio>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+using cluiedit::CommandLine;
+using cluiedit::Window;
+
+namespace {
+
+constexpr int ExitFailure = 2;
+
+int fail(const QString& message)
+{
+    std::fputs(qUtf8Printable(u"cluiedit: "_s + message + u'\n'), stderr);
+    return ExitFailure;
+}
+
+void translate(QApplication& application)
+{
+    const auto install = [&](const QString& name, const QString& directory) {
+        auto* translator = new QTranslator(&application);
+        if (translator->load(QLocale(), name, u"_"_s, directory)) {
+            QCoreApplication::installTranslator(translator);
+        }
+    };
+    install(u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    install(u"cluiedit"_s, u":/i18n"_s);
+}
+
+/// Ends the program with a picture of \p window when all is read and drawn.
+void photographWhenSettled(Window& window, const QString& path)
+{
+    const auto photograph = [&window, path] {
+        const bool isSaved = window.grab().save(path, "PNG");
+        QCoreApplication::exit(isSaved ? 0 : fail(u"Cannot write \"%1\"."_s.arg(path)));
+    };
+    // What has just been set is laid out and drawn when the events of it are through.
+    QObject::connect(&window, &Window::settled, &window, [&window, photograph] {
+        constexpr int LayoutTime = 100; // ms
+        QTimer::singleShot(LayoutTime, &window, photograph);
+    });
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    int exitCode = 0;
+    const std::optional<CommandLine> line = cluiedit::parse(argc, argv, exitCode);
+    if (!line) {
+        return exitCode;
+    }
+    if (!line->screenshot.isEmpty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application(argc, argv);
+    QCoreApplication::setOrganizationName(u"Cellaro"_s);
+    QCoreApplication::setApplicationName(u"cluiedit"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(CLCONFIGUI_VERSION));
+    QGuiApplication::setDesktopFileName(u"cluiedit"_s);
+    QGuiApplication::setWindowIcon(QIcon(u":/cluiedit/cluiedit.svg"_s));
+    translate(application);
+
+    if (QString error; !line->catalogue.isEmpty()
+        && !lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration().readCatalogue(
+            line->catalogue, error)) {
+        return fail(error);
+    }
+    Window window;
+    if (!line->tab.isEmpty() && !window.showTab(line->tab)) {
+        return fail(u"There is no tab \"%1\": write %2."_s.arg(line->tab, window.tabNames().join(u", "_s)));
+    }
+    if (line->size) {
+        window.resize(*line->size);
+    }
+    if (!line->document.isEmpty() && !window.openDocument(line->document) && !line->screenshot.isEmpty()) {
+        return fail(window.whyNot());
+    }
+    if (!line->data.isEmpty()) {
+        window.openData(line->data);
+    }
+    if (line->screenshot.isEmpty()) {
+        window.offerLostTexts();
+    } else {
+        photographWhenSettled(window, line->screenshot);
+    }
+    window.show();
+    return QApplication::exec();
+}
