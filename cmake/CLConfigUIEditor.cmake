@@ -1,7 +1,10 @@
 # Finds what the editor needs, and sets CLCONFIGUI_HAS_EDITOR to whether it is built.
 
 set(CLCONFIGUI_HAS_EDITOR OFF)
-if(CLCONFIGUI_BUILD_EDITOR)
+# What is installed here is no library for another machine.
+if(CLCONFIGUI_BUILD_EDITOR STREQUAL "AUTO" AND CMAKE_CROSSCOMPILING)
+    message(STATUS "cluiedit is not built for another machine")
+elseif(CLCONFIGUI_BUILD_EDITOR)
     set(missing "")
     find_package(Qt6 6.4 QUIET COMPONENTS Concurrent Widgets PrintSupport Svg LinguistTools)
     foreach(component IN ITEMS Concurrent Widgets PrintSupport Svg LinguistTools)

@@ -35,6 +35,7 @@ std::optional<CommandLine> parse(int argc, const char* const* argv, int& exitCod
     std::string catalogue;
     std::string screenshot;
     std::string tab;
+    std::string representation;
     std::string size;
     CLI::App program("Shows what a configuration document gives the application while it is being written, and what is "
                      "wrong with it.",
@@ -56,6 +57,8 @@ std::optional<CommandLine> parse(int argc, const char* const* argv, int& exitCod
         ->type_name("FILE.png");
     program
         .add_option("--tab", tab, "The tab to begin with: Plot, Axes, Colours, Columns, Graphs, Recipes, Units, Other.")
+        ->type_name("NAME");
+    program.add_option("--representation", representation, "The representation to begin with in the tab Plot.")
         ->type_name("NAME");
     program.add_option("--size", size, "The size of the window in pixels, such as 1280x800.")
         ->type_name("WxH")
@@ -79,6 +82,7 @@ Exit code: 0, 2 when the command line is wrong or a file on it cannot be read or
                      .catalogue = path(catalogue),
                      .screenshot = path(screenshot),
                      .tab = QString::fromStdString(tab),
+                     .representation = QString::fromStdString(representation),
                      .size = size.empty() ? std::nullopt : sizeOf(size)};
     for (const std::string& file : data) {
         line.data.append(path(file));

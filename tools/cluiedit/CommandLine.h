@@ -16,6 +16,7 @@ struct CommandLine
     QString catalogue; ///< empty: the shipped one
     QString screenshot; ///< empty: none
     QString tab; ///< in view at the start, by its English name; empty: the first one
+    QString representation; ///< plotted at the start; empty: the document's default
     std::optional<QSize> size; ///< of the window
 };
 

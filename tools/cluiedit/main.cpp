@@ -40,18 +40,22 @@ void translate(QApplication& application)
     install(u"cluiedit"_s, u":/i18n"_s);
 }
 
-/// Ends the program with a picture of \p window when all is read and drawn.
-void photographWhenSettled(Window& window, const QString& path)
+/// Ends the program with a picture of \p window.
+void photograph(Window& window, const QString& path)
 {
-    const auto photograph = [&window, path] {
-        const bool isSaved = window.grab().save(path, "PNG");
-        QCoreApplication::exit(isSaved ? 0 : fail(u"Cannot write \"%1\"."_s.arg(path)));
-    };
-    // What has just been set is laid out and drawn when the events of it are through.
-    QObject::connect(&window, &Window::settled, &window, [&window, photograph] {
-        constexpr int LayoutTime = 100; // ms
-        QTimer::singleShot(LayoutTime, &window, photograph);
-    });
+    const bool isSaved = window.grab().save(path, "PNG");
+    QCoreApplication::exit(isSaved ? 0 : fail(u"Cannot write \"%1\"."_s.arg(path)));
+}
+
+/// Does what has to wait until \p window shows everything: plots what \p line asks for, and makes the picture.
+void whenSettled(Window& window, const CommandLine& line)
+{
+    if (!line.representation.isEmpty() && !window.plotRepresentation(line.representation)) {
+        QCoreApplication::exit(fail(u"There is no representation \"%1\"."_s.arg(line.representation)));
+    } else if (!line.screenshot.isEmpty()) {
+        constexpr int LayoutTime = 100; // ms, until what has been set is laid out and drawn
+        QTimer::singleShot(LayoutTime, &window, [&window, path = line.screenshot] { photograph(window, path); });
+    }
 }
 
 } // namespace
@@ -69,7 +73,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(u"Cellaro"_s);
     QCoreApplication::setApplicationName(u"cluiedit"_s);
-    QCoreApplication::setApplicationVersion(QStringLiteral(CLCONFIGUI_VERSION));
+    QCoreApplication::setApplicationVersion(QString::fromLatin1(CLCONFIGUI_VERSION));
     QGuiApplication::setDesktopFileName(u"cluiedit"_s);
     QGuiApplication::setWindowIcon(QIcon(u":/cluiedit/cluiedit.svg"_s));
     translate(application);
@@ -94,9 +98,9 @@ int main(int argc, char** argv)
     }
     if (line->screenshot.isEmpty()) {
         window.offerLostTexts();
-    } else {
-        photographWhenSettled(window, line->screenshot);
     }
+    QObject::connect(
+        &window, &Window::settled, &window, [&] { whenSettled(window, *line); }, Qt::SingleShotConnection);
     window.show();
     return QApplication::exec();
 }

@@ -3,15 +3,19 @@
 #include <cluiedit/window/Window.h>
 
 #include <check/Check.h>
+#include <cluiedit/tabs/Tab.h>
 #include <cluiedit/text/Editor.h>
 #include <cluiedit/window/FindingsPanel.h>
 #include <cluiedit/window/Notice.h>
 #include <cluiedit/window/Veil.h>
 #include <data/ShippedFile.h>
+#include <document/DocumentTables.h>
 #include <support/DocumentMutator.h>
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QComboBox>
+#include <QDir>
 #include <QKeySequence>
 #include <QLabel>
 #include <QMenuBar>
@@ -192,6 +196,39 @@ TEST_F(WindowOf, EveryTabShowsWhatTheTextGivesWhenItComesIntoView)
     }
     EXPECT_FALSE(window->showTab(u"No such tab"_s));
     EXPECT_EQ(window->shown()->configuration().colors.custom.constFirst().first, u"Ink"_s);
+}
+
+TEST_F(WindowOf, EveryTableOfADocumentIsInATab)
+{
+    QStringList shown{u"Axes combinations"_s}; // as a matrix
+    const QStringList names = window->tabNames();
+    for (const QString& name : names) {
+        window->showTab(name);
+        settle();
+    }
+    const QList<cluiedit::Tab*> tabs = window->findChildren<cluiedit::Tab*>();
+    for (const cluiedit::Tab* tab : tabs) {
+        const QList<QComboBox*> choosers = tab->findChildren<QComboBox*>();
+        for (const QComboBox* chooser : choosers) {
+            for (int i = 0; i < chooser->count(); ++i) {
+                shown.append(chooser->itemText(i).section(u" ("_s, 0, 0));
+            }
+        }
+    }
+    const QList<cluiconfig::Table> tables = cluiconfig::documentTables({});
+    for (const cluiconfig::Table& table : tables) {
+        EXPECT_TRUE(shown.contains(table.name)) << table.name.toStdString();
+    }
+}
+
+TEST_F(WindowOf, PlotsARepresentationByItsName)
+{
+    window->showTab(u"Axes"_s);
+    EXPECT_TRUE(window->plotRepresentation(u"Nyquist plot"_s));
+    EXPECT_FALSE(window->plotRepresentation(u"No such plot"_s));
+    const QList<QComboBox*> choosers = window->findChildren<QComboBox*>(u"representation"_s);
+    ASSERT_EQ(choosers.size(), 1);
+    EXPECT_EQ(choosers.constFirst()->currentText(), u"Nyquist plot"_s);
 }
 
 TEST_F(WindowOf, SaysWhatCannotBeOpenedAndKeepsTheText)

@@ -266,13 +266,25 @@ void Window::goToPlace(const QString& pointer)
     }
 }
 
-void Window::goToAnything(FindKind kind, const QString& name, const QString& pointer)
+bool Window::plotRepresentation(const QString& name)
 {
+    if (!m_shown) {
+        return false;
+    }
     const auto& representations = m_shown->configuration().representations;
     const auto chosen = std::ranges::find(representations, name, &ConfigRepresentation::name);
-    if (kind == FindKind::Representation && chosen != representations.end()) {
-        showTab(u"Plot"_s);
-        m_plot->plot(chosen->x(), chosen->y1(), chosen->y2());
+    if (chosen == representations.end()) {
+        return false;
+    }
+    showTab(u"Plot"_s);
+    m_plot->plot(chosen->x(), chosen->y1(), chosen->y2());
+    return true;
+}
+
+void Window::goToAnything(FindKind kind, const QString& name, const QString& pointer)
+{
+    if (kind == FindKind::Representation) {
+        plotRepresentation(name);
     }
     if (!pointer.isEmpty()) {
         goToPlace(pointer);

@@ -74,6 +74,8 @@ public:
     /// Brings the tab into view that has \p name in English ("Plot", "Axes", …); false if there is none.
     bool showTab(const QString& name);
     QStringList tabNames() const;
+    /// Plots the representation of that name; false if the document that is shown has none.
+    bool plotRepresentation(const QString& name);
 
     /// What the tabs show is made of this one; null until a document has loaded.
     const std::shared_ptr<const Snapshot>& shown() const { return m_shown; }
