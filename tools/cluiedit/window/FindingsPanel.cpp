@@ -96,7 +96,7 @@ QVariant FindingsModel::data(const QModelIndex& index, int role) const
         return role == Qt::DisplayRole || role == Qt::ToolTipRole ? QVariant(finding.message) : QVariant();
     case LineColumn:
         return role == Qt::DisplayRole      ? QVariant(finding.line)
-            : role == Qt::TextAlignmentRole ? QVariant(Qt::AlignRight | Qt::AlignTop)
+            : role == Qt::TextAlignmentRole ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
                                             : QVariant();
     default:
         return role == Qt::DisplayRole ? QVariant(describe(finding.rule).name)
@@ -141,6 +141,7 @@ FindingsPanel::FindingsPanel(QWidget* parent)
     m_table->setShowGrid(false);
     m_table->setWordWrap(false);
     m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() * 3 / 2);
     QHeaderView* header = m_table->horizontalHeader();
     header->setSectionResizeMode(FindingsModel::MessageColumn, QHeaderView::Stretch);
     header->setHighlightSections(false);
