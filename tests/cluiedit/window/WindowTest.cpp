@@ -25,6 +25,7 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThreadPool>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -115,6 +116,13 @@ TEST_F(WindowOf, BeginsWithTheShippedDocument)
     EXPECT_EQ(window->windowTitle(), u"Untitled[*] – 0 errors, 0 warnings – cluiedit"_s);
     EXPECT_FALSE(window->isWindowModified());
     EXPECT_TRUE(window->shown()->loads());
+}
+
+TEST_F(WindowOf, ClosesBeforeAllIsMade)
+{
+    Window().close(); // and goes, while what it shows at first is being made
+    EXPECT_TRUE(QThreadPool::globalInstance()->waitForDone());
+    QTest::qWait(1);
 }
 
 TEST_F(WindowOf, SaysWhyTheDocumentIsRefusedAndKeepsWhatItShowed)

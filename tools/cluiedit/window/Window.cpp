@@ -21,6 +21,7 @@
 
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QFutureWatcher>
 #include <QLabel>
 #include <QSplitter>
 #include <QStatusBar>
@@ -135,15 +136,18 @@ Window::Window(QWidget* parent)
     restoreSettings();
     newDocument();
     // Made beside the user interface, so that the window need not wait for it.
-    QtConcurrent::run([] {
-        return std::make_shared<const Measurement>(demonstrationCell(catalogue()));
-    }).then(this, [this](const std::shared_ptr<const Measurement>& cell) {
-        m_demonstration = cell;
+    using Cell = std::shared_ptr<const Measurement>;
+    auto* watcher = new QFutureWatcher<Cell>(this); // unlike what is told to follow, it may go before the end
+    connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher] {
+        m_demonstration = watcher->result();
         if (m_isDemonstration) {
-            m_plot->setMeasurements({cell});
+            m_plot->setMeasurements({m_demonstration});
         }
+        watcher->deleteLater();
         announceIfSettled();
     });
+    watcher->setFuture(
+        QtConcurrent::run([] { return Cell(std::make_shared<const Measurement>(demonstrationCell(catalogue()))); }));
 }
 
 Window::~Window() = default;
