@@ -2,14 +2,13 @@
 
 #include <base/Singleton.h>
 #include <batterydata/RawDataCollection.h>
+#include <cluiedit/i18n/Translation.h>
 #include <cluiedit/window/Window.h>
 
 #include <QApplication>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QTimer>
-#include <QTranslator>
 
 #include <cstdio>
 #include <optional>
@@ -26,18 +25,6 @@ int fail(const QString& message)
 {
     std::fputs(qUtf8Printable(u"cluiedit: "_s + message + u'\n'), stderr);
     return ExitFailure;
-}
-
-void translate(QApplication& application)
-{
-    const auto install = [&](const QString& name, const QString& directory) {
-        auto* translator = new QTranslator(&application);
-        if (translator->load(QLocale(), name, u"_"_s, directory)) {
-            QCoreApplication::installTranslator(translator);
-        }
-    };
-    install(u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    install(u"cluiedit"_s, u":/i18n"_s);
 }
 
 /// Ends the program with a picture of \p window.
@@ -70,13 +57,13 @@ int main(int argc, char** argv)
     if (!line->screenshot.isEmpty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(u"Cellaro"_s);
     QCoreApplication::setApplicationName(u"cluiedit"_s);
     QCoreApplication::setApplicationVersion(QString::fromLatin1(CLCONFIGUI_VERSION));
     QGuiApplication::setDesktopFileName(u"cluiedit"_s);
     QGuiApplication::setWindowIcon(QIcon(u":/cluiedit/cluiedit.svg"_s));
-    translate(application);
+    cluiedit::installTranslations(QLocale());
 
     if (QString error; !line->catalogue.isEmpty()
         && !lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration().readCatalogue(

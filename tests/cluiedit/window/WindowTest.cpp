@@ -3,6 +3,7 @@
 #include <cluiedit/window/Window.h>
 
 #include <check/Check.h>
+#include <cluiedit/i18n/Translation.h>
 #include <cluiedit/tabs/Tab.h>
 #include <cluiedit/text/Editor.h>
 #include <cluiedit/window/FindingsPanel.h>
@@ -397,7 +398,29 @@ void expectEachOnce(QStringList letters, const QString& where)
 
 } // namespace
 
-TEST_F(WindowOf, EveryMenuHasItsOwnMnemonics)
+class WindowInEachLanguage : public WindowOf, public testing::WithParamInterface<QLocale::Language>
+{
+protected:
+    void SetUp() override
+    {
+        window.reset();
+        cluiedit::installTranslations(QLocale(GetParam()));
+        window = std::make_unique<Window>();
+        WindowOf::SetUp();
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Speaks, WindowInEachLanguage, testing::Values(QLocale::English, QLocale::German),
+                         [](const auto& language) { return QLocale::languageToString(language.param).toStdString(); });
+
+TEST_P(WindowInEachLanguage, IsInThatLanguage)
+{
+    const QString title = window->menuBar()->actions().constFirst()->text();
+    EXPECT_EQ(title, GetParam() == QLocale::German ? u"&Datei"_s : u"&File"_s);
+    EXPECT_TRUE(window->showTab(u"Colours"_s));
+}
+
+TEST_P(WindowInEachLanguage, EveryMenuHasItsOwnMnemonics)
 {
     const QList<QMenu*> menus = window->menuBar()->findChildren<QMenu*>();
     EXPECT_GE(menus.size(), 5);
@@ -411,7 +434,7 @@ TEST_F(WindowOf, EveryMenuHasItsOwnMnemonics)
     }
 }
 
-TEST_F(WindowOf, NoMnemonicMeansTwoThingsAtOnce)
+TEST_P(WindowInEachLanguage, NoMnemonicMeansTwoThingsAtOnce)
 {
     QStringList menus;
     const QList<QAction*> actions = window->menuBar()->actions();

@@ -18,6 +18,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QMessageBox>
 #include <QStandardItemModel>
 #include <QToolButton>
@@ -54,7 +55,9 @@ QString valueText(double value, const UsualUnit& from, const UsualUnit& to)
     const double shown =
         from == to ? value : Converter::convert(value, from, to).value_or(std::numeric_limits<double>::quiet_NaN());
     const QString symbol = Converter::toString(to);
-    const QString number = QString::number(shown, 'g', Digits);
+    QLocale locale; // as the axes have it
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    const QString number = locale.toString(shown, 'g', Digits);
     return symbol.isEmpty() ? number : u"%1 %2"_s.arg(number, symbol);
 }
 
@@ -499,7 +502,8 @@ void PlotTab::makeCurves()
                 m_missing.append(
                     lacking.isEmpty()
                         ? tr("%1 has no %2 of the same category as %3").arg(measurement->name(), y, names.at(X))
-                        : tr("%1 has no %2").arg(measurement->name(), lacking.join(tr(" and no "))));
+                        : lacking.size() == 1 ? tr("%1 has no %2").arg(measurement->name(), lacking.constFirst())
+                                              : tr("%1 has no %2 and no %3").arg(measurement->name(), names.at(X), y));
                 continue;
             }
             const auto x = quantityOf(pair->axes.getConfigX());

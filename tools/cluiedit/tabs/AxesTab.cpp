@@ -33,10 +33,10 @@ public:
     {
         auto* line = new QHBoxLayout(this);
         line->setContentsMargins(0, 0, 0, 0);
-        add(*line, {}, tr("linear"));
-        add(*line, {true, false, false}, tr("X logarithmic"));
-        add(*line, {false, true, false}, tr("Y logarithmic"));
-        add(*line, {false, false, true}, tr("orthonormal"));
+        add(*line, {}, AxesTab::tr("linear"));
+        add(*line, {true, false, false}, AxesTab::tr("X logarithmic"));
+        add(*line, {false, true, false}, AxesTab::tr("Y logarithmic"));
+        add(*line, {false, false, true}, AxesTab::tr("orthonormal"));
         line->addStretch();
     }
 

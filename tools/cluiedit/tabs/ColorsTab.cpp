@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QListView>
+#include <QLocale>
 #include <QPainter>
 #include <QSplitter>
 #include <QStyledItemDelegate>
@@ -18,6 +19,7 @@
 
 using namespace Qt::StringLiterals;
 namespace keys = uiconfig::keys;
+using cluiconfig::Table;
 
 namespace cluiedit {
 
@@ -68,6 +70,22 @@ QString contrastText(const QColor& color, const QColor& ground)
     return color.isValid() ? QString::number(contrast(color, ground), 'f', 1) : QString();
 }
 
+/// That two colours look alike, with places for their names and their distance.
+QString sentence(Vision vision)
+{
+    switch (vision) {
+    case Vision::Protanopia:
+        return ColorsTab::tr("%1 and %2 look alike with protanopia (ΔE00 %3)");
+    case Vision::Deuteranopia:
+        return ColorsTab::tr("%1 and %2 look alike with deuteranopia (ΔE00 %3)");
+    case Vision::Tritanopia:
+        return ColorsTab::tr("%1 and %2 look alike with tritanopia (ΔE00 %3)");
+    case Vision::Normal:
+        break;
+    }
+    return ColorsTab::tr("%1 and %2 look alike (ΔE00 %3)");
+}
+
 /// The elements whose default is each colour. Of several colours of one name the first is meant.
 QHash<QString, QStringList> users(const uiconfig::Colors& colors)
 {
@@ -80,10 +98,9 @@ QHash<QString, QStringList> users(const uiconfig::Colors& colors)
 
 } // namespace
 
-cluiconfig::Table paletteTable(const uiconfig::Colors& colors)
+Table paletteTable(const uiconfig::Colors& colors)
 {
-    cluiconfig::Table table{.name = ColorsTab::tr("Palette"),
-                            .columns = {ColorsTab::tr("Name"), ColorsTab::tr("Value")}};
+    Table table{.name = ColorsTab::tr("Palette"), .columns = {ColorsTab::tr("Name"), ColorsTab::tr("Value")}};
     for (const Vision vision : Visions) {
         table.columns.append(visionName(vision));
     }
@@ -114,6 +131,8 @@ ColorsTab::ColorsTab(QWidget* parent)
     }
     m_heading->setTextFormat(Qt::PlainText);
     m_heading->setWordWrap(true);
+    m_heading->setMinimumHeight(2 * m_heading->fontMetrics().lineSpacing()); // a splitter does not ask how it wraps
+    m_heading->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_heading->setBuddy(m_list);
     m_list->setModel(&m_sentences);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -173,11 +192,8 @@ void ColorsTab::showLookAlikes()
     for (const LookAlike& pair : m_lookAlikes) {
         const QString first = cluiconfig::check::printable(m_colors.at(pair.first).first);
         const QString second = cluiconfig::check::printable(m_colors.at(pair.second).first);
-        const QString amount = QString::number(pair.difference, 'f', 1);
-        sentences.append(pair.vision == Vision::Normal
-                             ? tr("%1 and %2 look alike (ΔE00 %3)").arg(first, second, amount)
-                             : tr("%1 and %2 look alike with %3 (ΔE00 %4)")
-                                   .arg(first, second, visionName(pair.vision).toLower(), amount));
+        const QString amount = QLocale().toString(pair.difference, 'f', 1);
+        sentences.append(sentence(pair.vision).arg(first, second, amount));
     }
     m_sentences.setStringList(sentences);
     m_list->setVisible(count > 0);

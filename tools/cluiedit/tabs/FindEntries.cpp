@@ -141,20 +141,19 @@ char16_t folded(QChar sign)
 
 QString kindName(FindKind kind)
 {
-    const auto tr = [](const char* text) { return QCoreApplication::translate("cluiedit::FindAnything", text); };
     switch (kind) {
     case FindKind::Array:
-        return tr("Data array");
+        return QCoreApplication::translate("cluiedit::FindAnything", "Data array");
     case FindKind::Representation:
-        return tr("Representation");
+        return QCoreApplication::translate("cluiedit::FindAnything", "Representation");
     case FindKind::Color:
-        return tr("Colour");
+        return QCoreApplication::translate("cluiedit::FindAnything", "Colour");
     case FindKind::Graph:
-        return tr("Graph");
+        return QCoreApplication::translate("cluiedit::FindAnything", "Graph");
     case FindKind::RecipeEntry:
-        return tr("Recipe entry");
+        return QCoreApplication::translate("cluiedit::FindAnything", "Recipe entry");
     case FindKind::Section:
-        return tr("Section");
+        return QCoreApplication::translate("cluiedit::FindAnything", "Section");
     }
     return {};
 }

@@ -1,5 +1,6 @@
 #include "TableModel.h"
 
+#include "TableWords.h"
 #include "Texts.h"
 
 #include <check/Text.h>
@@ -78,9 +79,14 @@ void TableModel::show(const Table& table)
     }
 }
 
+QString TableModel::shown(qsizetype row, qsizetype column) const
+{
+    return tableCell(value(row, column), m_table.columns.at(column));
+}
+
 QString TableModel::text(qsizetype row, qsizetype column) const
 {
-    return cluiconfig::check::printable(cellText(value(row, column)));
+    return cluiconfig::check::printable(shown(row, column));
 }
 
 int TableModel::rowCount(const QModelIndex& parent) const
@@ -120,7 +126,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(Qt::Alignment(Qt::AlignLeft | Qt::AlignVCenter));
     }
-    return role == Qt::DisplayRole ? m_table.columns.at(section) : QVariant();
+    return role == Qt::DisplayRole ? tableWord(m_table.columns.at(section)) : QVariant();
 }
 
 TableRows::TableRows(TableModel& model, QObject* parent)
@@ -144,16 +150,16 @@ bool TableRows::filterAcceptsRow(int row, const QModelIndex& parent) const
         return true;
     }
     QString all;
-    for (const QJsonValue& value : m_model.table().rows.at(row)) {
-        all += cellText(value) + u'\n';
+    for (int column = 0; column < m_model.columnCount(); ++column) {
+        all += m_model.shown(row, column) + u'\n';
     }
     return containsAll(all, m_words);
 }
 
 bool TableRows::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
-    const QString a = cellText(m_model.value(left.row(), left.column()));
-    const QString b = cellText(m_model.value(right.row(), right.column()));
+    const QString a = m_model.shown(left.row(), left.column());
+    const QString b = m_model.shown(right.row(), right.column());
     const std::optional<double> numberA = number(a);
     const std::optional<double> numberB = number(b);
     if (numberA.has_value() != numberB.has_value()) {

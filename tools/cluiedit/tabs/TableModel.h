@@ -23,7 +23,9 @@ public:
 
     const cluiconfig::Table& table() const { return m_table; }
     const QJsonValue& value(qsizetype row, qsizetype column) const { return m_table.rows.at(row).at(column); }
-    /// What people see in a cell, on one line.
+    /// What people see in a cell, in the language of the window.
+    QString shown(qsizetype row, qsizetype column) const;
+    /// The same on one line.
     QString text(qsizetype row, qsizetype column) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

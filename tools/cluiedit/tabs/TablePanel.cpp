@@ -1,6 +1,7 @@
 #include "TablePanel.h"
 
 #include "TableText.h"
+#include "TableWords.h"
 #include "Texts.h"
 
 #include <QAction>
@@ -92,7 +93,7 @@ void TablePanel::show(const cluiconfig::Table& table)
 {
     const bool isNew = table.columns != m_model.table().columns || (m_model.rowCount() == 0 && !table.rows.isEmpty());
     m_model.show(table);
-    m_view->setAccessibleName(table.name);
+    m_view->setAccessibleName(tableWord(table.name));
     if (isNew) {
         fitColumns();
     }
@@ -156,7 +157,8 @@ QList<QStringList> TablePanel::selectedRows(bool hasHeadings) const
     std::ranges::sort(selected, {}, &QModelIndex::row);
     QList<QStringList> rows;
     if (hasHeadings && !selected.isEmpty()) {
-        rows.append(m_model.table().columns);
+        QStringList& headings = rows.emplaceBack();
+        std::ranges::transform(m_model.table().columns, std::back_inserter(headings), tableWord);
     }
     for (const QModelIndex& index : selected) {
         const qsizetype row = rowOf(index);

@@ -1,6 +1,7 @@
 #include "TablesTab.h"
 
 #include "RowPlaces.h"
+#include "TableWords.h"
 
 #include <document/DocumentTables.h>
 
@@ -49,7 +50,7 @@ TablesTab::TablesTab(const QStringList& headings, QWidget* parent)
             }
         });
         panel->show(table);
-        addPage(table.name, panel, panel);
+        addPage(tableWord(table.name), panel, panel);
     }
 }
 
@@ -78,7 +79,7 @@ void TablesTab::choosePage(int page)
 
 void TablesTab::tell(int page, const Table& table)
 {
-    const QString text = u"%1 (%2)"_s.arg(table.name).arg(table.rows.size());
+    const QString text = u"%1 (%2)"_s.arg(tableWord(table.name)).arg(table.rows.size());
     if (m_chooser->itemText(page) != text) {
         m_chooser->setItemText(page, text);
     }

@@ -1,6 +1,7 @@
 #include "UnitsTab.h"
 
 #include "RowPlaces.h"
+#include "TableWords.h"
 
 #include <datastorage/Converter.h>
 #include <document/UnitTables.h>
@@ -36,7 +37,7 @@ UnitsTab::UnitsTab(QWidget* parent)
     const auto showUnits = [this, heading](qsizetype row) {
         const cluiconfig::Table units =
             cluiconfig::unitsTable(Converter::getPhysicalParameterFromString(parameter(row)));
-        heading->setText(units.name);
+        heading->setText(tableWord(units.name));
         m_units->show(units);
     };
     const cluiconfig::Table parameters = cluiconfig::parametersTable();
@@ -48,7 +49,7 @@ UnitsTab::UnitsTab(QWidget* parent)
             emit placeWanted(placeOfParameter(parameter(row), snapshot()->root()));
         }
     });
-    addPage(u"%1 (%2)"_s.arg(parameters.name).arg(parameters.rows.size()), page, m_parameters);
+    addPage(u"%1 (%2)"_s.arg(tableWord(parameters.name)).arg(parameters.rows.size()), page, m_parameters);
 }
 
 QString UnitsTab::parameter(qsizetype row) const

@@ -29,6 +29,9 @@ namespace cluiedit {
 
 namespace {
 
+/// Of the file dialog, which the application words and has no translation of.
+[[maybe_unused]] constexpr const char* CsvFiles = QT_TRANSLATE_NOOP("ui_config", "CL-Test CSV Files (*.csv)");
+
 constexpr auto FileNotice = "file"_L1; // of what concerns the document's file
 constexpr auto LostNotice = "lost"_L1;
 constexpr auto GeometryKey = "window/geometry"_L1;
