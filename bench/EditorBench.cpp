@@ -87,7 +87,8 @@ void measure(Window& window, const QString& tab, const char* what, const QByteAr
         const double before = processorTime();
         // A letter comes and goes.
         const bool comes = i % 2 == 0;
-        QKeyEvent press(QEvent::KeyPress, comes ? letter.at(0).toUpper().unicode() : Qt::Key_Backspace, Qt::NoModifier,
+        QKeyEvent press(QEvent::KeyPress,
+                        comes ? letter.at(0).toUpper().unicode() : static_cast<int>(Qt::Key_Backspace), Qt::NoModifier,
                         comes ? letter : QString());
         QCoreApplication::sendEvent(&editor, &press);
         settle(window);

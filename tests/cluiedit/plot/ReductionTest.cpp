@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+using cluiedit::PickAmounts;
+using cluiedit::Picks;
 using cluiedit::Reduction;
 using cluiedit::Values;
 
@@ -145,7 +147,7 @@ std::vector<std::size_t> allIndices(const Reduction& curve)
     return indices;
 }
 
-std::vector<std::size_t> indicesOf(const Reduction::Picks& picks)
+std::vector<std::size_t> indicesOf(const Picks& picks)
 {
     std::vector<std::size_t> indices;
     for (const auto& pick : picks.points) {
@@ -154,7 +156,7 @@ std::vector<std::size_t> indicesOf(const Reduction::Picks& picks)
     return indices;
 }
 
-void expectInOrder(const Reduction& curve, const Reduction::Picks& picks)
+void expectInOrder(const Reduction& curve, const Picks& picks)
 {
     for (std::size_t i = 0; i < picks.points.size(); ++i) {
         ASSERT_TRUE(curve.isDrawable(picks.points[i].index));
@@ -184,7 +186,7 @@ TEST(Reduction, KeepsTheLowestAndHighestOfEveryColumnOfAnyCurve)
             to = from + (right - left) / 1e5;
         }
         const auto edges = edgesOf(from, to, 1 + random.below(120));
-        const Reduction::Amounts amounts{.whole = static_cast<std::size_t>(random.below(300)),
+        const PickAmounts amounts{.whole = static_cast<std::size_t>(random.below(300)),
                                          .most = static_cast<std::size_t>(500 + random.below(2000))};
         const auto picks = curve.picks(edges, amounts);
         EXPECT_LE(picks.points.size(), amounts.most);
@@ -297,7 +299,7 @@ TEST(Reduction, SampledCurvesKeepTheirExtremes)
     const Reduction reduction = reductionOf(curve);
     ASSERT_GT(reduction.binWidth(), 0);
     for (const int columns : {50, 300, 1000, 3000}) {
-        const Reduction::Amounts amounts{.most = 20'000};
+        const PickAmounts amounts{.most = 20'000};
         const auto edges = edgesOf(100, 900, columns);
         const auto picks = reduction.picks(edges, amounts);
         ASSERT_TRUE(picks.isSampled);

@@ -119,6 +119,13 @@
     </message>
 </context>
 <context>
+    <name>cluiedit::AxesChooser</name>
+    <message>
+        <source>&amp;Representation:</source>
+        <translation>Dar&amp;stellung:</translation>
+    </message>
+</context>
+<context>
     <name>cluiedit::AxesMatrix</name>
     <message>
         <source>%1 × %2: not offered</source>
@@ -210,6 +217,57 @@
     <message>
         <source>Pairs shown: %1 of %2. X axes: %3 of %4. Y axes: %5 of %6.</source>
         <translation>Gezeigte Paare: %1 von %2. X-Achsen: %3 von %4. Y-Achsen: %5 von %6.</translation>
+    </message>
+</context>
+<context>
+    <name>cluiedit::AxisChooser</name>
+    <message>
+        <source>Logarithmic</source>
+        <translation>Logarithmisch</translation>
+    </message>
+    <message>
+        <source>&amp;X:</source>
+        <translation>&amp;X:</translation>
+    </message>
+    <message>
+        <source>Y&amp;1:</source>
+        <translation>Y&amp;1:</translation>
+    </message>
+    <message>
+        <source>Y&amp;2:</source>
+        <translation>Y&amp;2:</translation>
+    </message>
+    <message>
+        <source>Unit of the X axis</source>
+        <translation>Einheit der X-Achse</translation>
+    </message>
+    <message>
+        <source>Unit of the Y1 axis</source>
+        <translation>Einheit der Y1-Achse</translation>
+    </message>
+    <message>
+        <source>Unit of the Y2 axis</source>
+        <translation>Einheit der Y2-Achse</translation>
+    </message>
+    <message>
+        <source>Logarithmic X axis</source>
+        <translation>Logarithmische X-Achse</translation>
+    </message>
+    <message>
+        <source>Logarithmic Y1 axis</source>
+        <translation>Logarithmische Y1-Achse</translation>
+    </message>
+    <message>
+        <source>Logarithmic Y2 axis</source>
+        <translation>Logarithmische Y2-Achse</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(keine)</translation>
+    </message>
+    <message>
+        <source>(no unit)</source>
+        <translation>(ohne Einheit)</translation>
     </message>
 </context>
 <context>
@@ -326,6 +384,25 @@
     <message>
         <source>What may stand here</source>
         <translation>Was hier stehen darf</translation>
+    </message>
+</context>
+<context>
+    <name>cluiedit::Curves</name>
+    <message>
+        <source>%1 has no %2 of the same category as %3</source>
+        <translation>%1 enthält „%2“ nicht in derselben Kategorie wie „%3“</translation>
+    </message>
+    <message>
+        <source>%1 has no %2</source>
+        <translation>%1 enthält „%2“ nicht</translation>
+    </message>
+    <message>
+        <source>%1 has no %2 and no %3</source>
+        <translation>%1 enthält weder „%2“ noch „%3“</translation>
+    </message>
+    <message>
+        <source>%1 has %2 in a unit that does not fit the axis</source>
+        <translation>%1 enthält „%2“ in einer Einheit, die nicht zur Achse passt</translation>
     </message>
 </context>
 <context>
@@ -607,54 +684,49 @@
     </message>
 </context>
 <context>
+    <name>cluiedit::PlotNotices</name>
+    <message>
+        <source>The catalogue has no data array “%1”.</source>
+        <translation>Der Katalog hat keine Datenreihe „%1“.</translation>
+    </message>
+    <message>
+        <source>No axes combination of the document has “%1” as X.</source>
+        <translation>Keine Achsenkombination des Dokuments hat „%1“ als X.</translation>
+    </message>
+    <message>
+        <source>No axes combination of the document pairs “%1” with “%2”.</source>
+        <translation>Keine Achsenkombination des Dokuments verbindet „%1“ mit „%2“.</translation>
+    </message>
+    <message>
+        <source>There are no measurements to plot.</source>
+        <translation>Es gibt keine Messdaten zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>Choose an array for Y1 or Y2.</source>
+        <translation>Wählen Sie eine Datenreihe für Y1 oder Y2.</translation>
+    </message>
+    <message>
+        <source>%1 has no values of %2 over %3</source>
+        <translation>%1 enthält keine Werte von „%2“ über „%3“</translation>
+    </message>
+    <message>
+        <source>%1: none of the %2 points of %3 can be drawn on logarithmic axes, which show numbers above 0</source>
+        <translation>%1: Keiner der %2 Punkte von „%3“ ist auf logarithmischen Achsen darstellbar, die nur Zahlen über 0 zeigen</translation>
+    </message>
+    <message>
+        <source>%1: %2 points of %3 are left out, as logarithmic axes show numbers above 0</source>
+        <translation>%1: %2 Punkte von „%3“ fehlen, da logarithmische Achsen nur Zahlen über 0 zeigen</translation>
+    </message>
+    <message>
+        <source>And %1 more of this kind.</source>
+        <translation>Und %1 weitere dieser Art.</translation>
+    </message>
+</context>
+<context>
     <name>cluiedit::PlotTab</name>
     <message>
         <source>Values of the nearest points</source>
         <translation>Werte der nächstgelegenen Punkte</translation>
-    </message>
-    <message>
-        <source>&amp;Representation:</source>
-        <translation>Dar&amp;stellung:</translation>
-    </message>
-    <message>
-        <source>&amp;X:</source>
-        <translation>&amp;X:</translation>
-    </message>
-    <message>
-        <source>Y&amp;1:</source>
-        <translation>Y&amp;1:</translation>
-    </message>
-    <message>
-        <source>Y&amp;2:</source>
-        <translation>Y&amp;2:</translation>
-    </message>
-    <message>
-        <source>Unit of the X axis</source>
-        <translation>Einheit der X-Achse</translation>
-    </message>
-    <message>
-        <source>Unit of the Y1 axis</source>
-        <translation>Einheit der Y1-Achse</translation>
-    </message>
-    <message>
-        <source>Unit of the Y2 axis</source>
-        <translation>Einheit der Y2-Achse</translation>
-    </message>
-    <message>
-        <source>Logarithmic X axis</source>
-        <translation>Logarithmische X-Achse</translation>
-    </message>
-    <message>
-        <source>Logarithmic Y1 axis</source>
-        <translation>Logarithmische Y1-Achse</translation>
-    </message>
-    <message>
-        <source>Logarithmic Y2 axis</source>
-        <translation>Logarithmische Y2-Achse</translation>
-    </message>
-    <message>
-        <source>Logarithmic</source>
-        <translation>Logarithmisch</translation>
     </message>
     <message>
         <source>Show &amp;all</source>
@@ -697,80 +769,22 @@
         <translation>Wählen, wie Kurven gezeichnet werden</translation>
     </message>
     <message>
-        <source>No axes combination pairs “%1” with “%2”.</source>
-        <translation>Keine Achsenkombination verbindet „%1“ mit „%2“.</translation>
+        <source>Export the plot</source>
+        <translation>Plot exportieren</translation>
     </message>
+</context>
+<context>
+    <name>cluiedit::PlotView</name>
     <message>
-        <source>No axes combination pairs “%1” with “%2” or “%3”.</source>
-        <translation>Keine Achsenkombination verbindet „%1“ mit „%2“ oder „%3“.</translation>
+        <source>Plot</source>
+        <translation>Plot</translation>
     </message>
-    <message>
-        <source>(none)</source>
-        <translation>(keine)</translation>
-    </message>
-    <message>
-        <source>(own choice)</source>
-        <translation>(eigene Wahl)</translation>
-    </message>
-    <message>
-        <source>(no unit)</source>
-        <translation>(ohne Einheit)</translation>
-    </message>
-    <message>
-        <source>%1 has no %2 of the same category as %3</source>
-        <translation>%1 enthält „%2“ nicht in derselben Kategorie wie „%3“</translation>
-    </message>
-    <message>
-        <source>%1 has no %2</source>
-        <translation>%1 enthält „%2“ nicht</translation>
-    </message>
-    <message>
-        <source>%1 has no %2 and no %3</source>
-        <translation>%1 enthält weder „%2“ noch „%3“</translation>
-    </message>
-    <message>
-        <source>%1 has %2 in a unit that does not fit the axis</source>
-        <translation>%1 enthält „%2“ in einer Einheit, die nicht zur Achse passt</translation>
-    </message>
+</context>
+<context>
+    <name>cluiedit::PlottedCurves</name>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>The catalogue has no data array “%1”.</source>
-        <translation>Der Katalog hat keine Datenreihe „%1“.</translation>
-    </message>
-    <message>
-        <source>No axes combination of the document has “%1” as X.</source>
-        <translation>Keine Achsenkombination des Dokuments hat „%1“ als X.</translation>
-    </message>
-    <message>
-        <source>No axes combination of the document pairs “%1” with “%2”.</source>
-        <translation>Keine Achsenkombination des Dokuments verbindet „%1“ mit „%2“.</translation>
-    </message>
-    <message>
-        <source>There are no measurements to plot.</source>
-        <translation>Es gibt keine Messdaten zu zeichnen.</translation>
-    </message>
-    <message>
-        <source>Choose an array for Y1 or Y2.</source>
-        <translation>Wählen Sie eine Datenreihe für Y1 oder Y2.</translation>
-    </message>
-    <message>
-        <source>%1 has no values of %2 over %3</source>
-        <translation>%1 enthält keine Werte von „%2“ über „%3“</translation>
-    </message>
-    <message>
-        <source>%1: none of the %2 points of %3 can be drawn on logarithmic axes, which show numbers above 0</source>
-        <translation>%1: Keiner der %2 Punkte von „%3“ ist auf logarithmischen Achsen darstellbar, die nur Zahlen über 0 zeigen</translation>
-    </message>
-    <message>
-        <source>%1: %2 points of %3 are left out, as logarithmic axes show numbers above 0</source>
-        <translation>%1: %2 Punkte von „%3“ fehlen, da logarithmische Achsen nur Zahlen über 0 zeigen</translation>
-    </message>
-    <message>
-        <source>And %1 more of this kind.</source>
-        <translation>Und %1 weitere dieser Art.</translation>
     </message>
     <message>
         <source>%1: %2 %3 at %4</source>
@@ -783,17 +797,6 @@
     <message>
         <source>Too many points: only parts and the extremes are drawn of %1.</source>
         <translation>Zu viele Punkte: Nur Teile und die Extremwerte sind gezeichnet von %1.</translation>
-    </message>
-    <message>
-        <source>Export the plot</source>
-        <translation>Plot exportieren</translation>
-    </message>
-</context>
-<context>
-    <name>cluiedit::PlotView</name>
-    <message>
-        <source>Plot</source>
-        <translation>Plot</translation>
     </message>
 </context>
 <context>
@@ -841,6 +844,21 @@
     <message>
         <source>Line &amp;width:</source>
         <translation>&amp;Linienbreite:</translation>
+    </message>
+</context>
+<context>
+    <name>cluiedit::RepresentationChooser</name>
+    <message>
+        <source>No axes combination pairs “%1” with “%2”.</source>
+        <translation>Keine Achsenkombination verbindet „%1“ mit „%2“.</translation>
+    </message>
+    <message>
+        <source>No axes combination pairs “%1” with “%2” or “%3”.</source>
+        <translation>Keine Achsenkombination verbindet „%1“ mit „%2“ oder „%3“.</translation>
+    </message>
+    <message>
+        <source>(own choice)</source>
+        <translation>(eigene Wahl)</translation>
     </message>
 </context>
 <context>

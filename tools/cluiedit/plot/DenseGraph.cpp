@@ -60,7 +60,7 @@ void DenseGraph::setPoints(std::shared_ptr<const Reduction> points, const UnitSc
     m_scaleY = y;
 }
 
-Reduction::Picks DenseGraph::picks(bool isDrawing) const
+Picks DenseGraph::picks(bool isDrawing) const
 {
     const QCPAxis* axis = keyAxis();
     const QRect frame = axis->axisRect()->rect();
@@ -96,7 +96,7 @@ std::size_t DenseGraph::nearest(const QPointF& pixel) const
 
 void DenseGraph::draw(QCPPainter* painter)
 {
-    const Reduction::Picks picked = picks(painter->modes().testFlag(QCPPainter::pmVectorized));
+    const Picks picked = picks(painter->modes().testFlag(QCPPainter::pmVectorized));
     m_isSampled = picked.isSampled;
     const double margin = 2 + 2 * mPen.widthF();
     const QRectF frame = QRectF(clipRect()).adjusted(-margin, -margin, margin, margin);
@@ -138,7 +138,7 @@ void DenseGraph::draw(QCPPainter* painter)
         QPen pen(mPen.color(), 1);
         const QCPScatterStyle style(m_marker, pen, QBrush(mPen.color()), MarkerSize);
         style.applyTo(painter, pen);
-        for (const Reduction::Pick& pick : picked.points) {
+        for (const Pick& pick : picked.points) {
             const QPointF at = pixel(pick.index);
             if (frame.contains(at)) {
                 style.drawShape(painter, at);

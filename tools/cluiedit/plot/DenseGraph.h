@@ -38,7 +38,7 @@ public:
     const UnitScale& scaleX() const { return m_scaleX; }
     const UnitScale& scaleY() const { return m_scaleY; }
 
-    void setAmounts(const Reduction::Amounts& amounts) { m_amounts = amounts; }
+    void setAmounts(const PickAmounts& amounts) { m_amounts = amounts; }
     /// A drawing that may be enlarged, which has no pixels, aims at so many points.
     void setTarget(std::size_t target) { m_target = target; }
     /// Markers are drawn up to this number of points in view.
@@ -46,10 +46,10 @@ public:
     void setMarker(QCPScatterStyle::ScatterShape shape) { m_marker = shape; }
 
     /// What would be drawn now, on the screen or in a drawing.
-    Reduction::Picks picks(bool isDrawing = false) const;
+    Picks picks(bool isDrawing = false) const;
     /// Whether parts stand for the whole curve as it was drawn last.
     bool isSampled() const { return m_isSampled; }
-    bool hasMarkers(const Reduction::Picks& picks) const { return picks.inView <= m_mostMarkers; }
+    bool hasMarkers(const Picks& picks) const { return picks.inView <= m_mostMarkers; }
     /// Where point \p index is drawn.
     QPointF pixel(std::size_t index) const;
     /// The point drawn nearest to \p pixel: the nearest in x where the points are sorted in x. Points.size() for none.
@@ -70,7 +70,7 @@ private:
     std::shared_ptr<const Reduction> m_points;
     UnitScale m_scaleX;
     UnitScale m_scaleY;
-    Reduction::Amounts m_amounts;
+    PickAmounts m_amounts;
     std::size_t m_target = 0;
     std::size_t m_mostMarkers = 0;
     bool m_isSampled = false;

@@ -1,6 +1,9 @@
 #include "Export.h"
 
+#include <config/UIConfig.h>
+
 #include <QCoreApplication>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QPageSize>
@@ -90,9 +93,24 @@ bool exportPlot(QCustomPlot& plot, const QString& path, QString& error)
     return true;
 }
 
-QString exportFilters()
+QString askExportPath(QWidget* parent, const QString& title)
 {
-    return QCoreApplication::translate("cluiedit", "PNG pictures (*.png);;SVG drawings (*.svg);;PDF documents (*.pdf)");
+    UIConfig& preferences = lumo::tools::Singleton<UIConfig>::instance();
+    const QString last = preferences.getLastDirectoryExport();
+    const QString filters =
+        QCoreApplication::translate("cluiedit", "PNG pictures (*.png);;SVG drawings (*.svg);;PDF documents (*.pdf)");
+    QFileDialog dialog(parent, title, last.isEmpty() ? preferences.getDefaultAppDirectory() : last, filters);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(u"png"_s);
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
+        dialog.setDefaultSuffix(filter.section(u"*."_s, 1).chopped(1));
+    });
+    if (dialog.exec() != QDialog::Accepted) {
+        return {};
+    }
+    const QString path = dialog.selectedFiles().value(0);
+    preferences.setLastDirectoryExport(QFileInfo(path).absolutePath());
+    return path;
 }
 
 } // namespace cluiedit

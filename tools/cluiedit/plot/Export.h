@@ -3,6 +3,7 @@
 #include <QString>
 
 class QCustomPlot;
+class QWidget;
 
 namespace cluiedit {
 
@@ -10,7 +11,7 @@ namespace cluiedit {
 /// pdf. False with the reason in \p error; then a file that was there stays as it was.
 bool exportPlot(QCustomPlot& plot, const QString& path, QString& error);
 
-/// The filters of a file dialog for the formats.
-QString exportFilters();
+/// Asks for a file to write to, where the last one went, and remembers where. Empty when nobody wants one.
+QString askExportPath(QWidget* parent, const QString& title);
 
 } // namespace cluiedit

@@ -1,54 +1,15 @@
 #include "PlotView.h"
 
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace cluiedit {
 
-/// Draws the notices into the frame of the plot.
-class PlotView::Notices : public QCPLayerable
-{
-public:
-    explicit Notices(PlotView* view)
-        : QCPLayerable(view, u"overlay"_s)
-        , m_view(view)
-    {
-    }
-
-protected:
-    void applyDefaultAntialiasingHint(QCPPainter* painter) const override { painter->setAntialiasing(true); }
-
-    void draw(QCPPainter* painter) override
-    {
-        if (m_view->m_notices.isEmpty()) {
-            return;
-        }
-        constexpr int Margin = 10;
-        constexpr int Padding = 6;
-        constexpr int Opacity = 225;
-        constexpr int Flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWrapAnywhere | Qt::TextWordWrap;
-        const QRect frame = m_view->axisRect()->rect().adjusted(Margin, Margin, -Margin, -Margin);
-        const QString text = m_view->m_notices.join(u'\n');
-        painter->setFont(m_view->font());
-        const QRect room =
-            painter->fontMetrics().boundingRect(frame.adjusted(Padding, Padding, -Padding, -Padding), Flags, text);
-        QColor ground = m_view->palette().color(QPalette::ToolTipBase);
-        ground.setAlpha(Opacity);
-        painter->setPen(m_view->palette().color(QPalette::Mid));
-        painter->setBrush(ground);
-        painter->drawRect(room.adjusted(-Padding, -Padding, Padding, Padding));
-        painter->setPen(m_view->palette().color(QPalette::ToolTipText));
-        painter->drawText(room, Flags, text);
-    }
-
-private:
-    PlotView* m_view;
-};
-
 PlotView::PlotView(QWidget* parent)
     : QCustomPlot(parent)
+    , m_ranges(*this)
+    , m_noticeBox(new NoticeBox(this))
 {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
@@ -63,8 +24,6 @@ PlotView::PlotView(QWidget* parent)
     for (QCPAxis* axis : axes) {
         axis->setNumberPrecision(Digits);
         setLogarithmic(axis, false);
-        connect(axis, qOverload<const QCPRange&, const QCPRange&>(&QCPAxis::rangeChanged), this,
-                [this, axis](const QCPRange& range, const QCPRange& before) { keepRange(axis, range, before); });
     }
     axisRect()->insetLayout()->take(legend);
     plotLayout()->setRowSpacing(0);
@@ -75,8 +34,7 @@ PlotView::PlotView(QWidget* parent)
     legend->setBrush(Qt::NoBrush);
     legend->setMargins({4, 4, 4, 0});
     setLegendShown(false);
-    new Notices(this); // the plot's
-    connect(this, &QCustomPlot::afterLayout, this, &PlotView::keepAspects);
+    connect(this, &QCustomPlot::afterLayout, this, [this] { m_ranges.keepAspects(); });
     connect(this, &QCustomPlot::mouseDoubleClick, this, [this] {
         fit();
         draw();
@@ -100,7 +58,7 @@ void PlotView::setGraphs(const QList<DenseGraph*>& graphs)
 
 void PlotView::setNotices(const QStringList& notices)
 {
-    m_notices = notices;
+    m_noticeBox->setNotices(notices);
     setAccessibleDescription(notices.join(u'\n'));
 }
 
@@ -144,124 +102,9 @@ void PlotView::setLogarithmic(QCPAxis* axis, bool isLogarithmic)
     }
 }
 
-QList<QCPAxis*> PlotView::shownAxes() const
+QCPAxis* PlotView::axisOf(PlotAxis axis) const
 {
-    QList<QCPAxis*> axes{xAxis};
-    for (QCPAxis* axis : {yAxis, yAxis2}) {
-        if (axis->visible()) {
-            axes.append(axis);
-        }
-    }
-    return axes;
-}
-
-void PlotView::fitAxis(QCPAxis* axis)
-{
-    const bool isLogarithmic = axis->scaleType() == QCPAxis::stLogarithmic;
-    bool hasRange = false;
-    QCPRange range;
-    for (const DenseGraph* graph : std::as_const(m_graphs)) {
-        bool isFound = false;
-        const QCPRange part = axis == xAxis ? graph->getKeyRange(isFound)
-            : graph->valueAxis() == axis    ? graph->getValueRange(isFound)
-                                            : QCPRange();
-        if (isFound) {
-            range = hasRange ? range.expanded(part) : part;
-            hasRange = true;
-        }
-    }
-    axis->setTickLabels(hasRange);
-    if (!hasRange) {
-        axis->setRange(isLogarithmic ? QCPRange(0.1, 10) : QCPRange(0, 1));
-        return;
-    }
-    constexpr double Margin = 0.04; // of the frame, on either side
-    if (isLogarithmic) {
-        const double factor = range.upper > range.lower ? std::pow(range.upper / range.lower, Margin) : 2;
-        range = {range.lower / factor, range.upper * factor};
-    } else {
-        constexpr double Largest = 1e200; // QCustomPlot takes nothing much larger
-        range = {std::clamp(range.lower, -Largest, Largest), std::clamp(range.upper, -Largest, Largest)};
-        const double least = std::max(std::abs(range.lower), 1e-200) * 1e-9;
-        const double room = range.size() > least ? range.size() * Margin
-            : range.lower != 0                   ? std::abs(range.lower) * Margin
-                                                 : 1;
-        range = {range.lower - room, range.upper + room};
-    }
-    axis->setRange(range);
-}
-
-void PlotView::fit()
-{
-    for (QCPAxis* axis : {xAxis, yAxis, yAxis2}) {
-        fitAxis(axis);
-    }
-    m_isFitting = true;
-    m_fitted = {xAxis->range(), yAxis->range(), yAxis2->range()};
-}
-
-bool PlotView::isFitted() const
-{
-    return m_fitted == QList<QCPRange>{xAxis->range(), yAxis->range(), yAxis2->range()};
-}
-
-/// Axes with an aspect follow the X axis; when everything shall be seen, it first gives them what room they need.
-void PlotView::keepAspects()
-{
-    const bool wasFitted = isFitted();
-    const std::array axes{yAxis, yAxis2};
-    for (std::size_t i = 0; i < axes.size(); ++i) {
-        QCPAxis* axis = axes.at(i);
-        if (!m_aspects.at(i) || !axis->visible() || axis->scaleType() != QCPAxis::stLinear
-            || xAxis->scaleType() != QCPAxis::stLinear || axisRect()->height() <= 0 || axisRect()->width() <= 0) {
-            continue;
-        }
-        const double aspect = *m_aspects.at(i);
-        if (m_isFitting) {
-            const double needed = axis->range().size() / aspect * axisRect()->width() / axisRect()->height();
-            if (needed > xAxis->range().size()) {
-                xAxis->setRange(xAxis->range().center(), needed, Qt::AlignCenter);
-            }
-        }
-        axis->setScaleRatio(xAxis, aspect);
-    }
-    if (m_isFitting || wasFitted) {
-        m_fitted = {xAxis->range(), yAxis->range(), yAxis2->range()};
-    }
-    m_isFitting = false;
-}
-
-/// Numbers that differ by less than a double can say would be all the same place.
-void PlotView::keepRange(QCPAxis* axis, const QCPRange& range, const QCPRange& before)
-{
-    constexpr double Finest = 1e-12;
-    const bool isTooFine = range.size() < Finest * std::max(std::abs(range.lower), std::abs(range.upper));
-    if (isTooFine && before.size() > range.size()) {
-        const QSignalBlocker blocker(axis);
-        axis->setRange(before);
-    }
-}
-
-void PlotView::zoom(double factor)
-{
-    for (QCPAxis* axis : shownAxes()) {
-        const bool isLogarithmic = axis->scaleType() == QCPAxis::stLogarithmic;
-        axis->scaleRange(factor,
-                         isLogarithmic ? std::sqrt(axis->range().lower) * std::sqrt(axis->range().upper)
-                                       : axis->range().center());
-    }
-}
-
-void PlotView::move(double right, double up)
-{
-    for (QCPAxis* axis : shownAxes()) {
-        const double share = axis == xAxis ? right : up;
-        if (axis->scaleType() == QCPAxis::stLogarithmic) {
-            axis->moveRange(std::pow(axis->range().upper / axis->range().lower, share));
-        } else {
-            axis->moveRange(axis->range().size() * share);
-        }
-    }
+    return axis == PlotAxis::X ? xAxis : axis == PlotAxis::Y1 ? yAxis : yAxis2;
 }
 
 /// At the place \p right of the one before, or in the middle.

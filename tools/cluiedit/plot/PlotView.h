@@ -1,6 +1,8 @@
 #pragma once
 
 #include "DenseGraph.h"
+#include "NoticeBox.h"
+#include "PlotRanges.h"
 
 #include <QColor>
 #include <QList>
@@ -8,7 +10,6 @@
 
 #include <qcustomplot.h>
 
-#include <array>
 #include <optional>
 
 namespace cluiedit {
@@ -32,11 +33,12 @@ public:
 
     /// What stands in the picture instead of curves, a sentence each.
     void setNotices(const QStringList& notices);
-    const QStringList& notices() const { return m_notices; }
+    const QStringList& notices() const { return m_noticeBox->notices(); }
 
-    /// For the first and the second Y axis: how much of its range is as long as one of the X axis's; nothing for any.
-    using Aspects = std::array<std::optional<double>, 2>;
-    void setAspects(const Aspects& aspects) { m_aspects = aspects; }
+    using Aspects = PlotRanges::Aspects;
+    void setAspects(const Aspects& aspects) { m_ranges.setAspects(aspects); }
+
+    QCPAxis* axisOf(PlotAxis axis) const;
 
     void setLegendShown(bool isShown);
     /// How wide a name in the legend may be.
@@ -46,13 +48,13 @@ public:
     void setLogarithmic(QCPAxis* axis, bool isLogarithmic);
 
     /// Shows all points of all curves.
-    void fit();
+    void fit() { m_ranges.fit(m_graphs); }
     /// Whether the ranges are those that fit() gave them.
-    bool isFitted() const;
+    bool isFitted() const { return m_ranges.isFitted(); }
     /// By \p factor, which is above 1 to see more.
-    void zoom(double factor);
+    void zoom(double factor) { m_ranges.zoom(factor); }
     /// By shares of the frame.
-    void move(double right, double up);
+    void move(double right, double up) { m_ranges.move(right, up); }
     void setZoomsToRectangle(bool zooms) { m_zoomsToRectangle = zooms; }
 
     /// Draws at once. Axes keep their aspect.
@@ -74,22 +76,14 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    class Notices;
-
     void applyPalette();
-    void keepAspects();
-    void fitAxis(QCPAxis* axis);
-    QList<QCPAxis*> shownAxes() const;
     void point(double right);
-    void keepRange(QCPAxis* axis, const QCPRange& range, const QCPRange& before);
 
     QList<DenseGraph*> m_graphs;
-    QStringList m_notices;
-    Aspects m_aspects;
+    PlotRanges m_ranges;
+    NoticeBox* m_noticeBox; // the plot's
     std::optional<QColor> m_gridColor;
-    QList<QCPRange> m_fitted; // ranges as fit() left them
     std::optional<QPointF> m_cursor; // the place that is read out
-    bool m_isFitting = false; // until the next layout
     bool m_zoomsToRectangle = false;
 };
 

@@ -5,6 +5,8 @@
 #include <config/UIFilteredUnits.h>
 #include <datastorage/Converter.h>
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 using cl::datastorage::Converter;
@@ -68,6 +70,18 @@ std::optional<UnitScale> unitScale(const UsualUnit& from, const UsualUnit& to)
         return std::nullopt;
     }
     return UnitScale{*one - *zero, *zero};
+}
+
+QString valueText(double value, const UsualUnit& from, const UsualUnit& to)
+{
+    constexpr int Digits = 7;
+    const double shown =
+        from == to ? value : Converter::convert(value, from, to).value_or(std::numeric_limits<double>::quiet_NaN());
+    const QString symbol = Converter::toString(to);
+    QLocale locale; // as the axes have it
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    const QString number = locale.toString(shown, 'g', Digits);
+    return symbol.isEmpty() ? number : u"%1 %2"_s.arg(number, symbol);
 }
 
 } // namespace cluiedit

@@ -36,4 +36,7 @@ QList<cl::datastorage::UsualUnit> unitsOf(const Quantity& quantity);
 /// How values convert; nothing unless both units measure the same. The same unit, if it is none, converts.
 std::optional<UnitScale> unitScale(const cl::datastorage::UsualUnit& from, const cl::datastorage::UsualUnit& to);
 
+/// "3.7 V": \p value, which has the unit \p from, in the unit \p to.
+QString valueText(double value, const cl::datastorage::UsualUnit& from, const cl::datastorage::UsualUnit& to);
+
 } // namespace cluiedit

@@ -24,7 +24,7 @@ class Reader : public QObject
 
 public:
     /// \param text gives the text as it is now; called in the thread of this object
-    Reader(std::function<QByteArray()> text, QObject* parent = nullptr);
+    explicit Reader(std::function<QByteArray()> text, QObject* parent = nullptr);
     Reader(const Reader&) = delete;
     Reader& operator=(const Reader&) = delete;
     ~Reader() override;
