@@ -187,7 +187,7 @@ TEST(Reduction, KeepsTheLowestAndHighestOfEveryColumnOfAnyCurve)
         }
         const auto edges = edgesOf(from, to, 1 + random.below(120));
         const PickAmounts amounts{.whole = static_cast<std::size_t>(random.below(300)),
-                                         .most = static_cast<std::size_t>(500 + random.below(2000))};
+                                  .most = static_cast<std::size_t>(500 + random.below(2000))};
         const auto picks = curve.picks(edges, amounts);
         EXPECT_LE(picks.points.size(), amounts.most);
         expectInOrder(curve, picks);
