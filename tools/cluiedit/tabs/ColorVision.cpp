@@ -3,9 +3,8 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+
 #include <cmath>
-#include <numbers>
-#include <vector>
 
 namespace cluiedit {
 
@@ -78,69 +77,9 @@ Triple lightSeen(const QColor& color, Vision vision)
     return light;
 }
 
-constexpr double Degree = std::numbers::pi / 180;
-
-double sine(double degrees)
-{
-    return std::sin(degrees * Degree);
-}
-
-double cosine(double degrees)
-{
-    return std::cos(degrees * Degree);
-}
-
-/// From 0 to below 360 degrees; 0 for grey.
-double hueOf(double a, double b)
-{
-    return a == 0 && b == 0 ? 0 : std::fmod(std::atan2(b, a) / Degree + 360, 360);
-}
-
-/// How much of the corrections for blue and for near-greys applies at \p chroma.
-double chromaShare(double chroma)
-{
-    const double square = chroma * chroma;
-    const double seventh = square * square * square * chroma;
-    constexpr double Reference = 6103515625; // 25 to the power of 7
-    return std::sqrt(seventh / (seventh + Reference));
-}
-
-/// The weight of a difference in lightness is never more than this: S_L at the ends of the scale.
-const double GreatestLightnessWeight = 1 + 0.015 * 2500 / std::sqrt(2520.0);
-
 double relativeLuminance(const QColor& color)
 {
     return product(ToXyz, lightOf(color))[1];
-}
-
-void appendLookAlikes(const QList<QColor>& palette, Vision vision, QList<LookAlike>& all)
-{
-    struct Seen
-    {
-        Lab lab;
-        qsizetype place;
-    };
-    std::vector<Seen> colors;
-    for (qsizetype place = 0; place < palette.size(); ++place) {
-        if (palette.at(place).isValid()) {
-            colors.push_back({labSeenAs(palette.at(place), vision), place});
-        }
-    }
-    // Colours of different lightness cannot look alike, so only the next ones by lightness are compared.
-    std::ranges::stable_sort(colors, {}, [](const Seen& color) { return color.lab.lightness; });
-    const double farthest = LeastDifference * GreatestLightnessWeight;
-    for (auto one = colors.begin(); one != colors.end(); ++one) {
-        for (auto other = one + 1; other != colors.end(); ++other) {
-            if (other->lab.lightness - one->lab.lightness > farthest) {
-                break;
-            }
-            const double between = difference(one->lab, other->lab);
-            if (between < LeastDifference) {
-                const auto [first, second] = std::minmax(one->place, other->place);
-                all.append({first, second, vision, between});
-            }
-        }
-    }
 }
 
 } // namespace
@@ -179,50 +118,10 @@ Lab labSeenAs(const QColor& color, Vision vision)
     return {116 * f(1) - 16, 500 * (f(0) - f(1)), 200 * (f(1) - f(2))};
 }
 
-double difference(const Lab& one, const Lab& other)
-{
-    const double stretch = 1.5 - 0.5 * chromaShare((std::hypot(one.a, one.b) + std::hypot(other.a, other.b)) / 2);
-    const double chroma1 = std::hypot(one.a * stretch, one.b);
-    const double chroma2 = std::hypot(other.a * stretch, other.b);
-    const double hue1 = hueOf(one.a * stretch, one.b);
-    const double hue2 = hueOf(other.a * stretch, other.b);
-
-    const bool hasGrey = chroma1 * chroma2 == 0;
-    const double hueStep = hasGrey ? 0 : std::fmod(hue2 - hue1 + 540, 360) - 180;
-    double meanHue = hasGrey ? hue1 + hue2 : (hue1 + hue2) / 2;
-    if (!hasGrey && std::abs(hue1 - hue2) > 180) {
-        meanHue += hue1 + hue2 < 360 ? 180 : -180;
-    }
-    const double meanChroma = (chroma1 + chroma2) / 2;
-    const double offMiddle = (one.lightness + other.lightness) / 2 - 50;
-    const double square = offMiddle * offMiddle;
-    const double t = 1 - 0.17 * cosine(meanHue - 30) + 0.24 * cosine(2 * meanHue) + 0.32 * cosine(3 * meanHue + 6)
-        - 0.20 * cosine(4 * meanHue - 63);
-
-    const double lightness = (other.lightness - one.lightness) / (1 + 0.015 * square / std::sqrt(20 + square));
-    const double chroma = (chroma2 - chroma1) / (1 + 0.045 * meanChroma);
-    const double hue = 2 * std::sqrt(chroma1 * chroma2) * sine(hueStep / 2) / (1 + 0.015 * meanChroma * t);
-    const double blueness = (meanHue - 275) / 25;
-    const double rotation = -sine(60 * std::exp(-blueness * blueness)) * 2 * chromaShare(meanChroma);
-    return std::sqrt(lightness * lightness + chroma * chroma + hue * hue + rotation * chroma * hue);
-}
-
 double contrast(const QColor& one, const QColor& other)
 {
     const auto [darker, lighter] = std::minmax({relativeLuminance(one), relativeLuminance(other)});
     return (lighter + 0.05) / (darker + 0.05);
-}
-
-QList<LookAlike> lookAlikes(const QList<QColor>& palette)
-{
-    QList<LookAlike> all;
-    for (const Vision vision : Visions) {
-        const qsizetype before = all.size();
-        appendLookAlikes(palette, vision, all);
-        std::stable_sort(all.begin() + before, all.end(),
-                         [](const LookAlike& a, const LookAlike& b) { return a.difference < b.difference; });
-    }
-    return all;
 }
 
 } // namespace cluiedit

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ColorVision.h"
+#include "LookAlikes.h"
 #include "TablesTab.h"
 
 #include <QStringListModel>

@@ -12,8 +12,6 @@
 #include <QPixmap>
 
 #include <algorithm>
-#include <cmath>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 using cluiconfig::cellText;
@@ -24,14 +22,6 @@ namespace cluiedit {
 namespace {
 
 constexpr int SwatchSize = 12;
-
-/// The number that \p text is; nothing for other texts, and for "nan", which has no place among numbers.
-std::optional<double> number(const QString& text)
-{
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    return isNumber && !std::isnan(number) ? std::optional(number) : std::nullopt;
-}
 
 /// The colour of a name such as "#0072b2", with an outline that tells it from the ground; nothing for other texts.
 QVariant swatch(const QString& name)
@@ -127,45 +117,6 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
         return QVariant::fromValue(Qt::Alignment(Qt::AlignLeft | Qt::AlignVCenter));
     }
     return role == Qt::DisplayRole ? tableWord(m_table.columns.at(section)) : QVariant();
-}
-
-TableRows::TableRows(TableModel& model, QObject* parent)
-    : QSortFilterProxyModel(parent)
-    , m_model(model)
-{
-    setSourceModel(&model);
-}
-
-void TableRows::setWords(const QStringList& words)
-{
-    if (words != m_words) {
-        m_words = words;
-        invalidateFilter();
-    }
-}
-
-bool TableRows::filterAcceptsRow(int row, const QModelIndex& parent) const
-{
-    if (m_words.isEmpty() || parent.isValid()) {
-        return true;
-    }
-    QString all;
-    for (int column = 0; column < m_model.columnCount(); ++column) {
-        all += m_model.shown(row, column) + u'\n';
-    }
-    return containsAll(all, m_words);
-}
-
-bool TableRows::lessThan(const QModelIndex& left, const QModelIndex& right) const
-{
-    const QString a = m_model.shown(left.row(), left.column());
-    const QString b = m_model.shown(right.row(), right.column());
-    const std::optional<double> numberA = number(a);
-    const std::optional<double> numberB = number(b);
-    if (numberA.has_value() != numberB.has_value()) {
-        return numberA.has_value(); // numbers first
-    }
-    return numberA ? *numberA < *numberB : a.compare(b, Qt::CaseInsensitive) < 0;
 }
 
 } // namespace cluiedit

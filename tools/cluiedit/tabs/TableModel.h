@@ -3,9 +3,7 @@
 #include <document/Table.h>
 
 #include <QAbstractTableModel>
-#include <QSortFilterProxyModel>
 #include <QString>
-#include <QStringList>
 
 namespace cluiedit {
 
@@ -35,27 +33,6 @@ public:
 
 private:
     cluiconfig::Table m_table;
-};
-
-/// The rows of a TableModel that have all words of a filter, in the order of a column: numbers by their size, texts
-/// regardless of case.
-class TableRows : public QSortFilterProxyModel
-{
-    Q_OBJECT
-
-public:
-    /// REQUIRES: \p model outlives the rows.
-    explicit TableRows(TableModel& model, QObject* parent = nullptr);
-
-    void setWords(const QStringList& words);
-
-protected:
-    bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
-    bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
-
-private:
-    const TableModel& m_model;
-    QStringList m_words;
 };
 
 } // namespace cluiedit

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TableModel.h"
+#include "TableRows.h"
 
 #include <QWidget>
 
