@@ -1,6 +1,8 @@
 #include "BdfFile.h"
 
 #include "BdfHeader.h"
+#include "BdfNumber.h"
+#include "CsvParser.h"
 
 #include <batterydata/ClConfigDataArrayManager.h>
 #include <check/Suggest.h>
@@ -8,18 +10,8 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QScopeGuard>
-
-// A small C parser from the distribution: the quoting of RFC 4180, files of any size in chunks, no memory of its own
-// but for the cell at hand.
-#include <csv.h>
 
 #include <algorithm>
-#include <cctype>
-#include <charconv>
-#include <cstdlib>
-#include <cstring>
-#include <limits>
 #include <new>
 #include <string_view>
 
@@ -32,32 +24,13 @@ namespace cluiedit {
 namespace {
 
 constexpr qint64 ChunkSize = 1 << 19;
-constexpr std::size_t MaximumCellLength = 1 << 16;
 constexpr std::size_t MaximumHeaderLength = 1000;
 constexpr std::size_t MaximumColumns = 4096;
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
-/// Memory for the parser's cell at hand; null beyond the longest cell, which ends the parsing.
-void* reallocateCell(void* memory, std::size_t size)
-{
-    return size > MaximumCellLength ? nullptr : std::realloc(memory, size); // NOLINT(*-no-malloc): C owns it
-}
-
-bool equalsIgnoringCase(std::string_view text, std::string_view lowerCase)
-{
-    return std::ranges::equal(text, lowerCase, {},
-                              [](char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); });
-}
-
-std::string_view trimmed(std::string_view text)
-{
-    const std::size_t begin = std::min(text.find_first_not_of(" \t\r\n"), text.size());
-    return text.substr(begin, text.find_last_not_of(" \t\r\n") + 1 - begin);
-}
-
 /// Reads one file. The parser calls cell() and rowEnd(), which note the first error and ignore what follows it; they do
 /// not allocate for rows without an error: room for all rows of a chunk is made before it is parsed.
-class BdfReader
+class BdfReader : private CsvRows
 {
     Q_DECLARE_TR_FUNCTIONS(BdfReader)
 
@@ -125,11 +98,6 @@ private:
     /// Whether the file was read to its end without an error.
     bool parse(const std::stop_token& stop, const ReadProgress& progress)
     {
-        csv_init(&m_parser, CSV_STRICT | CSV_STRICT_FINI | CSV_REPALL_NL);
-        const auto freeParser = qScopeGuard([this] { csv_free(&m_parser); });
-        csv_set_realloc_func(&m_parser, reallocateCell);
-        csv_set_blk_size(&m_parser, 1024);
-
         const qint64 size = m_file.size();
         std::vector<char> chunk(ChunkSize);
         qint64 read = 0;
@@ -148,7 +116,7 @@ private:
             std::string_view text(chunk.data(), static_cast<std::size_t>(count));
             if (read == 0) {
                 text.remove_prefix(text.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0);
-                csv_set_delim(&m_parser, static_cast<unsigned char>(bdfDelimiter(text)));
+                m_parser.setDelimiter(bdfDelimiter(text));
             }
             parse(text, read, size);
             read += count;
@@ -156,7 +124,7 @@ private:
                 progress(read, std::max(size, read));
             }
         }
-        if (!hasFailed() && csv_fini(&m_parser, onCell, onRowEnd, this) != 0) {
+        if (!hasFailed() && m_parser.finish() == CsvParser::Error::OpenQuote) {
             failInRow(tr("a quote is missing at the end of the cell."));
         }
         return !hasFailed();
@@ -183,14 +151,12 @@ private:
     /// REQUIRES: there is room for the rows of \p text.
     void parseInRoom(std::string_view text)
     {
-        if (csv_parse(&m_parser, text.data(), text.size(), onCell, onRowEnd, this) == text.size() || hasFailed()) {
-            return;
-        }
-        if (csv_error(&m_parser) == CSV_EPARSE) {
+        const CsvParser::Error error = m_parser.parse(text);
+        if (error == CsvParser::Error::StrayQuote) {
             failInRow(tr("there is a quote where none may be. A cell in quotes begins and ends with one, and quotes in "
                          "it are written twice."));
-        } else {
-            failInRow(tr("the cell is longer than %1 bytes.").arg(MaximumCellLength));
+        } else if (error == CsvParser::Error::LongCell) {
+            failInRow(tr("the cell is longer than %1 bytes.").arg(CsvParser::MaximumCellLength));
         }
     }
 
@@ -214,15 +180,8 @@ private:
         return static_cast<std::size_t>(ChunkSize) / std::max<std::size_t>(m_columns.size(), 2) + 2;
     }
 
-    static void onCell(void* text, std::size_t length, void* reader)
+    void cell(std::string_view text) override
     {
-        static_cast<BdfReader*>(reader)->cell({static_cast<const char*>(text), length});
-    }
-    static void onRowEnd(int character, void* reader) { static_cast<BdfReader*>(reader)->rowEnd(character); }
-
-    void cell(std::string_view text)
-    {
-        m_isAfterReturn = false;
         if (hasFailed()) {
             return;
         }
@@ -232,8 +191,6 @@ private:
             failInRow(tr("the row has more cells than the header, which has %1.").arg(m_columns.size()));
         } else if (Column& column = m_columns[m_cell]; column.isRead) {
             numberCell(text, column);
-        } else {
-            m_linesInCells += std::ranges::count(text, '\n');
         }
         ++m_cell;
     }
@@ -246,57 +203,29 @@ private:
             failInRow(tr("the header of the column is longer than %1 bytes.").arg(MaximumHeaderLength));
         } else {
             m_headers.emplace_back(text);
-            m_linesInCells += std::ranges::count(text, '\n');
         }
     }
 
     void numberCell(std::string_view text, Column& column)
     {
-        double value = 0;
-        const char* end = text.data() + text.size();
-        const auto result = std::from_chars(text.data(), end, value);
-        if (result.ec == std::errc() && result.ptr == end) {
-            column.values.push_back(value);
+        using enum BdfNumber::Problem;
+        const BdfNumber number = bdfNumber(text, column.isBoolean);
+        if (number.problem == None) {
+            column.values.push_back(number.value);
             return;
         }
-        unusualCell(trimmed(text), column);
-    }
-
-    /// What is no plain number: nothing, a number with a plus sign or blanks, a truth value, or a mistake.
-    void unusualCell(std::string_view text, Column& column)
-    {
-        if (text.empty()) {
-            column.values.push_back(std::numeric_limits<double>::quiet_NaN());
-            return;
-        }
-        if (column.isBoolean && (equalsIgnoringCase(text, "true") || equalsIgnoringCase(text, "false"))) {
-            column.values.push_back(text.size() == 4 ? 1 : 0);
-            return;
-        }
-        std::string_view number = text;
-        number.remove_prefix(text.starts_with('+') && !text.starts_with("+-") ? 1 : 0);
-        double value = 0;
-        const char* end = number.data() + number.size();
-        const auto result = std::from_chars(number.data(), end, value);
-        const bool isAll = result.ptr == end;
-        if (result.ec == std::errc() && isAll) {
-            column.values.push_back(value);
-            return;
-        }
-        const QString cell = cluiconfig::check::quoted(
-            QString::fromUtf8(text.data(), static_cast<qsizetype>(std::min<std::size_t>(text.size(), 200))));
-        if (result.ec == std::errc::result_out_of_range && isAll) {
+        const std::string_view start = trimmed(text).substr(0, 200);
+        const QString cell = cluiconfig::check::quoted(QString::fromUtf8(start.data(), std::ssize(start)));
+        if (number.problem == OutOfRange) {
             failInRow(tr("%1 is beyond the numbers that can be computed with.").arg(cell));
-        } else if (result.ec == std::errc() && !isAll && *result.ptr == ',') {
+        } else if (number.problem == DecimalComma) {
             failInRow(tr("%1 has a decimal comma. Numbers have a decimal point.").arg(cell));
         } else {
             failInRow(tr("%1 is not a number.").arg(cell));
         }
     }
 
-    /// \p character is what ended the row, or stands on a line without cells; -1 at the end of the file. Both
-    /// characters of a CR LF come here.
-    void rowEnd(int character)
+    void rowEnd() override
     {
         if (!hasFailed() && m_cell > 0) {
             if (m_columns.empty()) {
@@ -308,10 +237,6 @@ private:
             }
         }
         m_cell = 0;
-        m_line += character == '\n' && m_isAfterReturn ? 0 : 1;
-        m_line += m_linesInCells;
-        m_linesInCells = 0;
-        m_isAfterReturn = character == '\r';
     }
 
     void readHeader()
@@ -339,7 +264,7 @@ private:
         if (std::ranges::none_of(columns, &Column::isRead)) {
             fail(tr("%1, line %2: the header names no column of numbers that is known, such as \"voltage_volt\".")
                      .arg(m_name)
-                     .arg(m_line));
+                     .arg(m_parser.line()));
             return;
         }
         m_columns = std::move(columns);
@@ -359,25 +284,26 @@ private:
     {
         const QString header = m_cell < m_columns.size() ? m_columns[m_cell].header : QString();
         if (header.isEmpty()) {
-            fail(tr("%1, line %2, column %3: %4").arg(m_name).arg(m_line).arg(m_cell + 1).arg(what));
+            fail(tr("%1, line %2, column %3: %4").arg(m_name).arg(m_parser.line()).arg(m_cell + 1).arg(what));
         } else {
-            fail(tr("%1, line %2, column %3 (%4): %5").arg(m_name).arg(m_line).arg(m_cell + 1).arg(header, what));
+            fail(tr("%1, line %2, column %3 (%4): %5")
+                     .arg(m_name)
+                     .arg(m_parser.line())
+                     .arg(m_cell + 1)
+                     .arg(header, what));
         }
     }
 
     QFile m_file;
     QString m_name;
     const uiconfig::Catalogue& m_catalogue;
-    csv_parser m_parser{};
+    CsvParser m_parser{*this};
     BdfFile m_result;
 
     std::vector<std::string> m_headers;
     std::vector<Column> m_columns; // none before the header is read
     std::size_t m_rows = 0;
     std::size_t m_cell = 0; // of the row
-    qint64 m_line = 1;
-    qint64 m_linesInCells = 0; // of the row, inside quotes
-    bool m_isAfterReturn = false;
 };
 
 } // namespace
