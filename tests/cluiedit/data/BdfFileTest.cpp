@@ -142,6 +142,7 @@ TEST_F(BdfFileTest, MistakesAreToldWithTheirPlace)
         errorOf("voltage_volt;current_ampere\r\n1;2\r\n\r\n3,7;1\r\n"),
         "cell.bdf.csv, line 4, column 1 (voltage_volt): \"3,7\" has a decimal comma. Numbers have a decimal point.");
     EXPECT_THAT(errorOf("voltage_volt,step_id\n1,\"a\nb\"\n+-2,\n"), HasSubstr("line 4, column 1 "));
+    EXPECT_THAT(errorOf("voltage_volt\n\"1\n\"\nx\n"), HasSubstr("line 4, column 1 "));
     EXPECT_THAT(errorOf("voltage_volt,step_id\n1,2,3\n"), HasSubstr("line 2, column 3: the row has more cells"));
     EXPECT_THAT(errorOf("voltage_volt,step_id\n1,2\n1\n"),
                 HasSubstr("line 3, column 2 (step_id): the row has 1 cells"));

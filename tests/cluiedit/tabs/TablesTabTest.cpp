@@ -510,6 +510,32 @@ TEST(TableModel, ChangesOnlyTheRowsThatDiffer)
     EXPECT_EQ(resets.count(), 0);
 }
 
+TEST(TableRows, AreFilteredAndSortedAnewWhenTheTableChanges)
+{
+    const auto tableOf = [](const QStringList& names) {
+        Table table{.name = u"Names"_s, .columns = {u"Name"_s, u"Length"_s}};
+        for (const QString& name : names) {
+            table.rows.append({name, name.size()});
+        }
+        return table;
+    };
+    TableModel model;
+    model.show(tableOf({u"STRASSE"_s, u"b 10"_s, u"b 9"_s}));
+    cluiedit::TableRows rows(model);
+    rows.setWords({u"B"_s});
+    rows.sort(0);
+    EXPECT_EQ(shown(rows), texts(tableOf({u"b 10"_s, u"b 9"_s})));
+    model.show(tableOf({u"ab"_s, u"b 10"_s, u"x"_s}));
+    EXPECT_EQ(shown(rows), texts(tableOf({u"ab"_s, u"b 10"_s})));
+    model.show(tableOf({u"ab"_s, u"Acc b"_s, u"b 10"_s, u"AA B"_s, u"x"_s}));
+    EXPECT_EQ(shown(rows), texts(tableOf({u"AA B"_s, u"ab"_s, u"Acc b"_s, u"b 10"_s})));
+    rows.sort(1);
+    rows.setWords({u"b"_s, u"A"_s});
+    EXPECT_EQ(shown(rows), texts(tableOf({u"ab"_s, u"AA B"_s, u"Acc b"_s})));
+    model.show({.name = u"Other"_s, .columns = {u"Name"_s, u"Length"_s, u"More"_s}, .rows = {{u"a"_s, 1, u"b"_s}}});
+    EXPECT_EQ(rows.rowCount(), 1);
+}
+
 TEST(TableModel, ShowsAHundredThousandRows)
 {
     Table table{.name = u"Names"_s, .columns = {u"Name"_s, u"Number"_s}};

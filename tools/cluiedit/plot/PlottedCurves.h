@@ -20,7 +20,7 @@ public:
     struct One
     {
         Curve curve;
-        DenseGraph* graph; ///< The view's.
+        DenseGraph* graph = nullptr; ///< The view's.
 
         const Reduction& points() const { return *graph->points(); }
     };
