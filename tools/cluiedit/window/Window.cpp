@@ -101,14 +101,15 @@ Window::Window(QWidget* parent)
     resizeDocks({dock}, {150}, Qt::Vertical);
 
     m_tabs->setDocumentMode(true);
-    addPage(u"Plot"_s, tr("Plot"), m_plot);
-    addPage(u"Axes"_s, tr("Axes"), new AxesTab(this));
-    addPage(u"Colours"_s, tr("Colours"), new ColorsTab(this));
-    addPage(u"Columns"_s, tr("Columns"), makeColumnsTab(this));
-    addPage(u"Graphs"_s, tr("Graphs"), makeGraphsTab(this));
-    addPage(u"Recipes"_s, tr("Recipes"), makeRecipesTab(this));
-    addPage(u"Units"_s, tr("Units"), new UnitsTab(this));
-    addPage(u"Other"_s, tr("Other"), makeOtherTab(this));
+    addPage(u"Plot"_s, tr("Plot"), [this] { return m_plot; });
+    addPage(u"Axes"_s, tr("Axes"), [] { return new AxesTab; });
+    addPage(u"Colours"_s, tr("Colours"), [] { return new ColorsTab; });
+    addPage(u"Columns"_s, tr("Columns"), [] { return makeColumnsTab(); });
+    addPage(u"Graphs"_s, tr("Graphs"), [] { return makeGraphsTab(); });
+    addPage(u"Recipes"_s, tr("Recipes"), [] { return makeRecipesTab(); });
+    addPage(u"Units"_s, tr("Units"), [] { return new UnitsTab; });
+    addPage(u"Other"_s, tr("Other"), [] { return makeOtherTab(); });
+    makeTab(m_pages.first());
 
     makeActions();
     statusBar()->setSizeGripEnabled(true);
@@ -152,13 +153,22 @@ Window::Window(QWidget* parent)
 
 Window::~Window() = default;
 
-void Window::addPage(const QString& name, const QString& title, Tab* tab)
+void Window::addPage(const QString& name, const QString& title, const std::function<Tab*()>& make)
 {
-    m_pages.append({.name = name, .tab = tab, .presented = {}});
-    const int index = m_tabs->addTab(tab, title);
+    m_pages.append({.name = name, .make = make});
+    auto* place = new QWidget;
+    (new QVBoxLayout(place))->setContentsMargins(0, 0, 0, 0);
+    const int index = m_tabs->addTab(place, title);
     m_tabs->setTabToolTip(index, QKeySequence(Qt::CTRL | (Qt::Key_1 + index)).toString(QKeySequence::NativeText));
-    connect(tab, &Tab::placeWanted, this, &Window::goToPlace);
-    connect(tab, &Tab::plotWanted, this, [this](const QString& x, const QString& y) {
+}
+
+void Window::makeTab(Page& page)
+{
+    page.tab = page.make();
+    QWidget* place = m_tabs->widget(static_cast<int>(&page - m_pages.constData()));
+    place->layout()->addWidget(page.tab);
+    connect(page.tab, &Tab::placeWanted, this, &Window::goToPlace);
+    connect(page.tab, &Tab::plotWanted, this, [this](const QString& x, const QString& y) {
         showTab(u"Plot"_s);
         m_plot->plot(x, y);
     });
@@ -170,7 +180,7 @@ bool Window::showTab(const QString& name)
     if (page == m_pages.end()) {
         return false;
     }
-    m_tabs->setCurrentWidget(page->tab);
+    m_tabs->setCurrentIndex(static_cast<int>(page - m_pages.begin()));
     return true;
 }
 
@@ -225,11 +235,11 @@ void Window::take(const std::shared_ptr<const Snapshot>& snapshot)
 
 void Window::presentCurrentTab()
 {
-    if (!m_shown || m_tabs->currentIndex() < 0) {
-        return;
-    }
     Page& page = m_pages[m_tabs->currentIndex()];
-    if (page.presented != m_shown) {
+    if (page.tab == nullptr) {
+        makeTab(page);
+    }
+    if (m_shown && page.presented != m_shown) {
         page.tab->present(m_shown);
         page.presented = m_shown;
     }

@@ -92,13 +92,15 @@ private:
     struct Page
     {
         QString name; // in English, for showTab()
-        Tab* tab;
-        std::shared_ptr<const Snapshot> presented;
+        std::function<Tab*()> make;
+        Tab* tab = nullptr; // made when it first comes into view
+        std::shared_ptr<const Snapshot> presented{};
     };
 
     void makeActions();
     QAction* addAction(QMenu* menu, const QString& text, const QKeySequence& keys, const std::function<void()>& action);
-    void addPage(const QString& name, const QString& title, Tab* tab);
+    void addPage(const QString& name, const QString& title, const std::function<Tab*()>& make);
+    void makeTab(Page& page);
 
     void textChanged();
     void take(const std::shared_ptr<const Snapshot>& snapshot);

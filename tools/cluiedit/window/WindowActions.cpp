@@ -11,6 +11,7 @@
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QTabBar>
 #include <QTabWidget>
 
 using namespace Qt::StringLiterals;
@@ -67,7 +68,7 @@ void Window::makeActions()
     for (int i = 0; i < m_tabs->count(); ++i) {
         addAction(go, tr("To the tab %1").arg(m_tabs->tabText(i)), QKeySequence(Qt::CTRL | (Qt::Key_1 + i)), [this, i] {
             m_tabs->setCurrentIndex(i);
-            m_tabs->currentWidget()->setFocus();
+            m_tabs->tabBar()->setFocus();
         });
     }
 
