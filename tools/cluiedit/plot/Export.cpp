@@ -108,7 +108,7 @@ QString askExportPath(QWidget* parent, const QString& title)
     if (dialog.exec() != QDialog::Accepted) {
         return {};
     }
-    const QString path = dialog.selectedFiles().value(0);
+    QString path = dialog.selectedFiles().value(0);
     preferences.setLastDirectoryExport(QFileInfo(path).absolutePath());
     return path;
 }
