@@ -32,8 +32,8 @@ need_to_build() {
 
 need_to_edit() {
     need_to_build
-    need libqscintilla2-qt6-dev libcsv-dev libqt6svg6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n \
-        libqscintilla2-qt6-l10n
+    need libqscintilla2-qt6-dev libqscintilla2-qt6-l10n libcsv-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools \
+        qt6-l10n-tools qt6-translations-l10n
 }
 
 need_to_test() {
