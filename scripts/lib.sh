@@ -33,7 +33,7 @@ need_to_build() {
 need_to_edit() {
     need_to_build
     need libqscintilla2-qt6-dev libqscintilla2-qt6-l10n libcsv-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools \
-        qt6-l10n-tools qt6-translations-l10n
+        qt6-l10n-tools qt6-translations-l10n fonts-dejavu-core
 }
 
 need_to_test() {
