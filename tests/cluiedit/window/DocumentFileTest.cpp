@@ -1,6 +1,7 @@
+#include "Files.h"
+
 #include <cluiedit/window/DocumentFile.h>
 
-#include <QFile>
 #include <QFileInfo>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -20,20 +21,6 @@ using cluiedit::DocumentFile;
 using testing::HasSubstr;
 
 namespace {
-
-void write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
 
 class DocumentFileIn : public testing::Test
 {

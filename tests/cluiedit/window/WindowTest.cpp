@@ -1,5 +1,7 @@
 // The window as people use it: type, see what is wrong, switch tabs, open, save, lose and recover.
 
+#include "Files.h"
+
 #include <cluiedit/window/Window.h>
 
 #include <check/Check.h>
@@ -38,20 +40,6 @@ using cluiedit::Window;
 using testing::HasSubstr;
 
 namespace {
-
-void write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
 
 class WindowOf : public testing::Test
 {
