@@ -85,7 +85,8 @@ TEST_F(ReaderOf, ANewerTextCancelsAnOlderOne)
 {
     text = largeDocument();
     reader->textChanged();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return asked == 1; }));
+    QCoreApplication::sendPostedEvents(reader.get()); // it begins to read, and cannot tell before it comes here again
+    ASSERT_EQ(asked, 1);
     text = "[]";
     for (int i = 0; i < 10; ++i) {
         reader->textChanged();
