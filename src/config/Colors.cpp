@@ -78,12 +78,22 @@ bool readColors(const QJsonValue& section, const Reading& with)
     return true;
 }
 
+namespace {
+
+std::optional<QColor> find(const decltype(Colors::custom)& custom, const decltype(Colors::defaults)& defaults,
+                           const QString& key)
+{
+    const QString name = defaults.value(key);
+    const auto found =
+        std::find_if(custom.cbegin(), custom.cend(), [&name](const auto& each) { return each.first == name; });
+    return found == custom.cend() ? std::nullopt : std::optional(found->second);
+}
+
+} // namespace
+
 std::optional<QColor> defaultColor(const Colors& colors, const QString& key)
 {
-    const QString name = colors.defaults.value(key);
-    const auto found = std::find_if(colors.custom.cbegin(), colors.custom.cend(),
-                                    [&name](const auto& custom) { return custom.first == name; });
-    return found == colors.custom.cend() ? std::nullopt : std::optional(found->second);
+    return find(colors.custom, colors.defaults, key);
 }
 
 } // namespace uiconfig
@@ -109,7 +119,7 @@ bool UIConfig::readDefaultColors(const QJsonValue& defaultColors, QString& error
 
 bool UIConfig::getDefaultColor(const QString& key, QColor& color) const
 {
-    const std::optional<QColor> found = uiconfig::defaultColor({m_customColors, m_defaultColors}, key);
+    const std::optional<QColor> found = uiconfig::find(m_customColors, m_defaultColors, key);
     color = found.value_or(color);
     return found.has_value();
 }

@@ -233,7 +233,8 @@ Result checkCatalogue(const QString& file, const QByteArray& bytes, const QJsonO
 namespace {
 
 /// The findings in a text that the application refuses with \p error, since it is no JSON object.
-QList<Finding> findingsInText(const QByteArray& bytes, const QString& error, Subject subject)
+QList<Finding> findingsInText(const QByteArray& bytes, const QString& error, Subject subject,
+                              const std::stop_token& stop = {})
 {
     const MendedText mended(bytes);
     QList<Finding> findings;
@@ -245,7 +246,7 @@ QList<Finding> findingsInText(const QByteArray& bytes, const QString& error, Sub
     }
     const QJsonDocument document = QJsonDocument::fromJson(mended.json());
     if (document.isObject() && subject == Subject::Document) {
-        QList<Finding> others = checkDocument(mended.json(), document.object()).findings;
+        QList<Finding> others = checkDocument(mended.json(), document.object(), stop).findings;
         others.removeIf([&](const Finding& finding) { return mended.isMissing(finding.offset); });
         for (Finding& finding : others) {
             finding.offset = mended.originalOffset(finding.offset);
@@ -298,7 +299,7 @@ Result checkText(const QByteArray& text, const QString& name, const std::stop_to
         result.findings = {errorAboutTheFile(Rule::Unreadable, result.verdict.error + u'.')};
     } else {
         result.verdict.error = refusal(text, name);
-        result.findings = findingsInText(text, result.verdict.error, Subject::Document);
+        result.findings = findingsInText(text, result.verdict.error, Subject::Document, stop);
     }
     return result;
 }
