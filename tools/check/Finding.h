@@ -20,6 +20,13 @@ struct Finding
     QString
         before{}; ///< What stands on the line before the place, and from it on; the ends of a long line are cut off.
     QString after{};
+
+    /// Whether both say the same of the same place, whatever stands around it.
+    bool saysTheSameAs(const Finding& other) const
+    {
+        return offset == other.offset && line == other.line && severity == other.severity && rule == other.rule
+            && message == other.message && instead == other.instead;
+    }
 };
 
 } // namespace cluiconfig::check

@@ -1,6 +1,6 @@
 #include "PlotNotices.h"
 
-#include <batterydata/RawDataCollection.h>
+#include <cluiedit/reading/Catalogue.h>
 
 #include <QCoreApplication>
 
@@ -74,12 +74,7 @@ public:
     static QString more(qsizetype count) { return tr("And %1 more of this kind.").arg(count); }
 
 private:
-    static bool isKnown(const QString& array)
-    {
-        const auto& catalogue =
-            lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
-        return !catalogue.getConfigDataArrays(array).isEmpty();
-    }
+    static bool isKnown(const QString& array) { return !catalogue().getConfigDataArrays(array).isEmpty(); }
 
     const PlotState& m_state;
 };

@@ -1,7 +1,7 @@
 #include "Quantity.h"
 
-#include <batterydata/RawDataCollection.h>
 #include <check/UnitSpelling.h>
+#include <cluiedit/reading/Catalogue.h>
 #include <config/UIFilteredUnits.h>
 #include <datastorage/Converter.h>
 
@@ -17,10 +17,8 @@ namespace cluiedit {
 
 std::optional<Quantity> quantityOf(const DataArrayIdentifier& array)
 {
-    const auto& catalogue =
-        lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
     const auto* found = dynamic_cast<const cl::batterydata::ClConfigDataArray*>(
-        catalogue.getConfigDataArray(array.getName(), array.getCategory()));
+        catalogue().getConfigDataArray(array.getName(), array.getCategory()));
     if (found == nullptr) {
         return std::nullopt;
     }

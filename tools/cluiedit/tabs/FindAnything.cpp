@@ -192,13 +192,18 @@ void FindAnything::collect()
     if (m_snapshot && m_snapshot != m_collected) {
         m_collected = m_snapshot;
         m_model.setEntries(findEntries(*m_snapshot));
-        search();
+        showBest();
     }
 }
 
 void FindAnything::search()
 {
     m_model.setQuery(m_line->text());
+    showBest();
+}
+
+void FindAnything::showBest()
+{
     if (m_model.rowCount() > 0) {
         m_view->selectRow(0);
         m_view->scrollToTop();

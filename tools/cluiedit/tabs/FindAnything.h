@@ -62,6 +62,7 @@ protected:
 private:
     void collect();
     void search();
+    void showBest();
     void choose(const QModelIndex& index);
 
     FindModel m_model;

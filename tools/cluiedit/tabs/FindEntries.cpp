@@ -2,10 +2,7 @@
 
 #include <base/DocumentKeys.h>
 #include <base/JsonPointer.h>
-#include <base/Singleton.h>
-#include <batterydata/ClConfigDataArray.h>
-#include <batterydata/ClConfigDataArrayManager.h>
-#include <batterydata/RawDataCollection.h>
+#include <cluiedit/reading/Catalogue.h>
 #include <search/FuzzyFinder.h>
 #include <search/TechniqueSearchStrategy.h>
 
@@ -103,9 +100,7 @@ struct Collector
             addOnce(pair.getConfigX().getName());
             addOnce(pair.getConfigY().getName());
         }
-        const auto& catalogue =
-            lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
-        for (const auto* array : catalogue.getAll()) {
+        for (const auto* array : catalogue().getAll()) {
             addOnce(array->getName());
         }
     }

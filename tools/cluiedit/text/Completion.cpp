@@ -4,9 +4,7 @@
 #include "SchemaPlace.h"
 
 #include <base/DocumentKeys.h>
-#include <base/Singleton.h>
-#include <batterydata/ClConfigDataArrayManager.h>
-#include <batterydata/RawDataCollection.h>
+#include <cluiedit/reading/Catalogue.h>
 #include <search/FtsStrategy.h>
 #include <search/FuzzyFinder.h>
 
@@ -25,11 +23,6 @@ namespace cluiedit {
 namespace {
 
 constexpr qsizetype LongestQuery = 256; // nobody types more to find a name
-
-const cl::batterydata::ClConfigDataArrayManager& catalogue()
-{
-    return lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
-}
 
 QStringList categoriesOf(const QString& name)
 {

@@ -4,6 +4,7 @@
 #include "CompletionPopup.h"
 #include "Definition.h"
 #include "JsonPlace.h"
+#include "Position.h"
 
 #include <Qsci/qscilexerjson.h>
 
@@ -20,11 +21,6 @@ namespace cluiedit {
 namespace {
 
 constexpr qsizetype MostMatchesShown = 10'000;
-
-unsigned long position(qsizetype offset)
-{
-    return static_cast<unsigned long>(offset);
-}
 
 QsciScintilla::EolMode lineEndOf(const QByteArray& bytes)
 {
@@ -218,14 +214,12 @@ void Editor::goForward()
     goAlong(m_forward, m_back);
 }
 
-bool Editor::goAlong(QList<qsizetype>& from, QList<qsizetype>& to)
+void Editor::goAlong(QList<qsizetype>& from, QList<qsizetype>& to)
 {
-    if (from.isEmpty()) {
-        return false;
+    if (!from.isEmpty()) {
+        to.append(cursorOffset());
+        goTo(from.takeLast());
     }
-    to.append(cursorOffset());
-    goTo(from.takeLast());
-    return true;
 }
 
 void Editor::noteChange(int at, int type, int length)

@@ -109,7 +109,7 @@ private:
     void offer(bool isAsked);
     void putIn(const Candidate& candidate);
     void replace(qsizetype begin, qsizetype end, const QByteArray& text);
-    bool goAlong(QList<qsizetype>& from, QList<qsizetype>& to);
+    void goAlong(QList<qsizetype>& from, QList<qsizetype>& to);
     QByteArray view() const;
     int lineOf(qsizetype offset) const;
     bool isLarge() const { return length() >= LargeSize; }

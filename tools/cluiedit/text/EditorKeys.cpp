@@ -1,5 +1,6 @@
 #include "CompletionPopup.h"
 #include "Editor.h"
+#include "Position.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -13,15 +14,6 @@ using namespace Qt::StringLiterals;
 /// What the editor does with keys and the mouse.
 
 namespace cluiedit {
-
-namespace {
-
-unsigned long position(qsizetype offset)
-{
-    return static_cast<unsigned long>(offset);
-}
-
-} // namespace
 
 void Editor::keyPressEvent(QKeyEvent* event)
 {

@@ -1,5 +1,7 @@
 #include "FindingMarks.h"
 
+#include "Position.h"
+
 #include <Qsci/qsciscintilla.h>
 
 #include <QByteArrayView>
@@ -16,11 +18,6 @@ namespace cluiedit {
 namespace {
 
 using Base = QsciScintillaBase;
-
-unsigned long position(qsizetype offset)
-{
-    return static_cast<unsigned long>(offset);
-}
 
 qsizetype length(const QsciScintilla& view)
 {
@@ -49,12 +46,6 @@ qsizetype endOfToken(const QsciScintilla& view, qsizetype offset)
     return end > offset ? end : view.SendScintilla(Base::SCI_POSITIONAFTER, position(offset));
 }
 
-bool isSame(const Finding& a, const Finding& b)
-{
-    return a.offset == b.offset && a.severity == b.severity && a.rule == b.rule && a.message == b.message
-        && a.instead == b.instead;
-}
-
 } // namespace
 
 FindingMarks::FindingMarks(QsciScintilla& view)
@@ -80,7 +71,7 @@ void FindingMarks::setLook(bool isDark)
 
 void FindingMarks::show(const QList<Finding>& findings)
 {
-    if (!m_isMoved && std::ranges::equal(findings, m_shown, isSame)) {
+    if (!m_isMoved && std::ranges::equal(findings, m_shown, &Finding::saysTheSameAs)) {
         return;
     }
     m_shown = findings;

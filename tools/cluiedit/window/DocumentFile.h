@@ -23,7 +23,7 @@ public:
     /// The name without the directory; "Untitled" while there is none.
     QString name() const;
 
-    /// What the file held when it was last opened, saved or accepted().
+    /// What the file held when it was last opened or saved.
     const QByteArray& known() const { return m_known; }
 
     /// Takes \p path for the document's file and returns what it holds; nothing, with the reason in \p error, when it
@@ -41,9 +41,6 @@ public:
     /// What another program has written into the file since we know it; nothing if it has not. A file that is gone
     /// holds nothing new: saving makes it again.
     std::optional<QByteArray> changeByOthers() const;
-
-    /// From now on the file is known to hold \p bytes.
-    void accept(const QByteArray& bytes) { m_known = bytes; }
 
 signals:
     /// Another program has changed the file: changeByOthers() has its text.

@@ -20,12 +20,6 @@ namespace cluiedit {
 
 namespace {
 
-bool isSame(const Finding& a, const Finding& b)
-{
-    return a.offset == b.offset && a.line == b.line && a.severity == b.severity && a.rule == b.rule
-        && a.message == b.message;
-}
-
 /// Leaves out the severities that nobody wants to see.
 class SeverityFilter : public QSortFilterProxyModel
 {
@@ -177,7 +171,7 @@ void FindingsPanel::setFindings(const QList<Finding>& findings)
     m_warnings = static_cast<int>(findings.size()) - m_errors;
     m_showsErrors->setText(tr("Error&s (%1)").arg(m_errors));
     m_showsWarnings->setText(tr("&Warnings (%1)").arg(m_warnings));
-    if (!std::ranges::equal(findings, m_model->findings(), isSame)) {
+    if (!std::ranges::equal(findings, m_model->findings(), &Finding::saysTheSameAs)) {
         m_model->setFindings(findings);
     }
 }

@@ -4,13 +4,12 @@
 #include "Notice.h"
 #include "Veil.h"
 
-#include <base/Singleton.h>
-#include <batterydata/RawDataCollection.h>
 #include <check/Places.h>
 #include <cluiedit/data/BackgroundLoad.h>
 #include <cluiedit/data/DemonstrationCell.h>
 #include <cluiedit/data/LoadingBar.h>
 #include <cluiedit/plot/PlotTab.h>
+#include <cluiedit/reading/Catalogue.h>
 #include <cluiedit/tabs/AxesTab.h>
 #include <cluiedit/tabs/ColorsTab.h>
 #include <cluiedit/tabs/FindAnything.h>
@@ -39,11 +38,6 @@ namespace cluiedit {
 namespace {
 
 constexpr int KeepInterval = 1000; // ms, from the first change that is not saved to the disk
-
-const uiconfig::Catalogue& catalogue()
-{
-    return lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
-}
 
 } // namespace
 

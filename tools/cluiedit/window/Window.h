@@ -119,6 +119,7 @@ private:
     void fileChangedByOthers();
     void compareWithFile();
     void takeFromFile();
+    void forgetUnsaved();
     void keepUnsaved();
     void recover(const LostText& lost);
 

@@ -96,11 +96,10 @@ QString Window::whyNot() const
 void Window::setText(const QByteArray& text)
 {
     m_notices->hide(FileNotice);
-    m_recovery.forget();
     m_reader.setName(m_file.path().isEmpty() ? m_file.name() : m_file.path());
     m_editor->open(text);
     textChanged();
-    m_keepTimer.stop();
+    forgetUnsaved();
     showTitle();
 }
 
@@ -120,8 +119,7 @@ bool Window::mayDropText()
 void Window::closeEvent(QCloseEvent* event)
 {
     if (mayDropText()) {
-        m_recovery.forget();
-        m_keepTimer.stop();
+        forgetUnsaved();
         saveSettings();
         event->accept();
     } else {
@@ -156,8 +154,7 @@ bool Window::saveTo(const QString& path, bool evenIfChanged)
     }
     m_notices->hide(FileNotice);
     m_editor->setModified(false);
-    m_recovery.forget();
-    m_keepTimer.stop();
+    forgetUnsaved();
     m_reader.setName(m_file.path());
     addRecent(m_file.path());
     showTitle();
@@ -185,7 +182,7 @@ void Window::askSaveAs()
     const QString path = QFileDialog::getSaveFileName(this, tr("Save the document as"), proposal, documentFilter());
     if (!path.isEmpty()) {
         preferences().setLastDirectoryBoard(directoryOf(path));
-        saveTo(path, true); // the dialog has asked whether to replace the file
+        saveAs(path); // the dialog has asked whether to replace the file
     }
 }
 
@@ -249,9 +246,14 @@ void Window::takeFromFile()
     }
     m_editor->replaceText(*bytes);
     m_editor->setModified(false);
+    forgetUnsaved();
+    showTitle();
+}
+
+void Window::forgetUnsaved()
+{
     m_recovery.forget();
     m_keepTimer.stop();
-    showTitle();
 }
 
 void Window::keepUnsaved()
