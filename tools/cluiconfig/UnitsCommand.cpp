@@ -19,7 +19,6 @@ using namespace Qt::StringLiterals;
 using cl::datastorage::Converter;
 using cl::datastorage::PhysicalParameter;
 using cl::datastorage::UsualUnit;
-using cl::datastorage::UsualUnitType;
 
 namespace cluiconfig {
 

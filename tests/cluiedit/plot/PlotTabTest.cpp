@@ -563,7 +563,7 @@ TEST_F(PlotTabTest, SaysWhenACurveIsNotDrawnAsAWhole)
     tab.plot(TestTime, Voltage);
     EXPECT_EQ(readout(), u"Too many points: only parts and the extremes are drawn of cv.csv."_s);
     view().xAxis->setRange(0.1, 0.1001);
-    view().draw();
+    view().drawNow();
     EXPECT_EQ(readout(), QString());
 }
 
@@ -644,7 +644,7 @@ TEST_F(PlotTabTest, FollowsThePalette)
     dark.setColor(QPalette::Text, Qt::white);
     tab.setPalette(dark);
     QTest::qWait(1);
-    view().draw();
+    view().drawNow();
     EXPECT_EQ(ground(), QColor(20, 20, 20));
     EXPECT_EQ(view().xAxis->labelColor(), QColor(Qt::white));
 }

@@ -89,14 +89,14 @@ private:
 
 const ChargeTable& graphiteTable()
 {
-    static const ChargeTable Table(graphite);
-    return Table;
+    static const ChargeTable table(graphite);
+    return table;
 }
 
 const ChargeTable& cellTable()
 {
-    static const ChargeTable Table([](double charge) { return layeredOxide(charge) - graphite(charge); });
-    return Table;
+    static const ChargeTable table([](double charge) { return layeredOxide(charge) - graphite(charge); });
+    return table;
 }
 
 /// The voltage of a resistor and a capacitor side by side after \p seconds, with a constant current.

@@ -51,8 +51,11 @@ private:
     {
         beginStep(StepType::Rest, ControlMode::OpenCircuit, 0, Cell::MaximumVoltage);
         m_cell.switchTo(0);
-        for (double t = 0; t < RestTime; t += nextInterval(t, RestInterval)) {
-            advance(nextInterval(t, RestInterval), 0);
+        double t = 0;
+        while (t < RestTime) {
+            const double interval = nextInterval(t, RestInterval);
+            advance(interval, 0);
+            t += interval;
         }
         endStep();
     }

@@ -85,7 +85,7 @@ void PlotTab::makeActions()
     // Home is a key of the view, and only told here.
     QAction* all = add(tr("Show &all"), tr("Show all points (Home, or double click)"), {}, [this] {
         m_view->fit();
-        m_view->draw();
+        m_view->drawNow();
     });
     QAction* rectangle = add(tr("&Zoom to rectangle"), tr("Drag to zoom to a rectangle; otherwise drag with Shift"), {},
                              [this](bool isOn) { m_view->setZoomsToRectangle(isOn); });
@@ -118,7 +118,7 @@ void PlotTab::present(const std::shared_ptr<const Snapshot>& snapshot)
         rebuild();
     } else if (hasChanged(uiconfig::keys::Colors)) {
         paintCurves();
-        m_view->draw();
+        m_view->drawNow();
     }
 }
 
@@ -171,7 +171,7 @@ void PlotTab::chooseUnit(PlotAxis axis, const UsualUnit& before)
     plotCurves();
     if (wasFitted) {
         m_view->fit();
-        m_view->draw();
+        m_view->drawNow();
     }
 }
 
@@ -182,7 +182,7 @@ void PlotTab::chooseScale(PlotAxis axis)
     plotCurves();
     if (wasFitted || !fits) {
         m_view->fit();
-        m_view->draw();
+        m_view->drawNow();
     }
 }
 
@@ -242,7 +242,7 @@ void PlotTab::plotCurves()
     if (!isSame || wasFitted) {
         m_view->fit();
     }
-    m_view->draw();
+    m_view->drawNow();
 }
 
 void PlotTab::paintCurves()
@@ -287,7 +287,7 @@ void PlotTab::changeRendering()
     RenderingDialog dialog(this);
     if (dialog.exec() == QDialog::Accepted && m_snapshot) {
         paintCurves();
-        m_view->draw();
+        m_view->drawNow();
     }
 }
 

@@ -37,7 +37,7 @@ PlotView::PlotView(QWidget* parent)
     connect(this, &QCustomPlot::afterLayout, this, [this] { m_ranges.keepAspects(); });
     connect(this, &QCustomPlot::mouseDoubleClick, this, [this] {
         fit();
-        draw();
+        drawNow();
     });
     connect(this, &QCustomPlot::mousePress, this, [this](const QMouseEvent* event) {
         const bool isRectangle = m_zoomsToRectangle != event->modifiers().testFlag(Qt::ShiftModifier);
@@ -153,7 +153,7 @@ void PlotView::keyPressEvent(QKeyEvent* event)
         QCustomPlot::keyPressEvent(event);
         return;
     }
-    draw();
+    drawNow();
 }
 
 void PlotView::mouseMoveEvent(QMouseEvent* event)

@@ -57,8 +57,8 @@ public:
     void move(double right, double up) { m_ranges.move(right, up); }
     void setZoomsToRectangle(bool zooms) { m_zoomsToRectangle = zooms; }
 
-    /// Draws at once. Axes keep their aspect.
-    void draw() { replot(rpImmediateRefresh); }
+    /// Axes keep their aspect.
+    void drawNow() { replot(rpImmediateRefresh); }
 
 signals:
     /// Somebody points at this place of the picture.

@@ -44,7 +44,7 @@ QString axesReference(const QJsonObject& root, const QString& name, const QStrin
                 if (references.at(j)[keys::Name].toString() != name) {
                     continue;
                 }
-                const QString pointer = jsonPointer(keys::AxesCombinations, i, axis, j, keys::Name);
+                QString pointer = jsonPointer(keys::AxesCombinations, i, axis, j, keys::Name);
                 const QString given = references.at(j)[keys::Category].toString();
                 if (category.isEmpty() || given.isEmpty() || given == category) {
                     return pointer;

@@ -53,6 +53,7 @@ Editor::Editor(QWidget* parent)
 
 QByteArray Editor::view() const
 {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the component hands out everything as a number
     const auto* text = reinterpret_cast<const char*>(SendScintilla(SCI_GETCHARACTERPOINTER));
     return QByteArray::fromRawData(text, SendScintilla(SCI_GETLENGTH));
 }
@@ -83,7 +84,7 @@ void Editor::open(const QByteArray& bytes)
     SendScintilla(SCI_GOTOPOS, 0UL);
 }
 
-void Editor::replace(qsizetype begin, qsizetype end, const QByteArray& text)
+void Editor::replaceRange(qsizetype begin, qsizetype end, const QByteArray& text)
 {
     SendScintilla(SCI_SETTARGETRANGE, position(begin), static_cast<long>(end));
     SendScintilla(SCI_REPLACETARGET, position(text.size()), text.constData());
@@ -107,7 +108,7 @@ void Editor::replaceText(const QByteArray& bytes)
     getCursorPosition(&line, &column);
     const int firstLine = firstVisibleLine();
     beginUndoAction();
-    replace(same, old.size() - sameAtEnd, bytes.sliced(same, bytes.size() - sameAtEnd - same));
+    replaceRange(same, old.size() - sameAtEnd, bytes.sliced(same, bytes.size() - sameAtEnd - same));
     endUndoAction();
     adaptToSize();
     setCursorPosition(std::min(line, lines() - 1), column);
@@ -117,8 +118,9 @@ void Editor::replaceText(const QByteArray& bytes)
 void Editor::replaceAll(const QList<Match>& matches)
 {
     beginUndoAction();
-    for (auto match = matches.rbegin(); match != matches.rend(); ++match) {
-        replace(match->begin, match->end, match->replacement);
+    for (qsizetype i = matches.size(); i > 0; --i) { // from the end: the places of those before stay
+        const Match& match = matches.at(i - 1);
+        replaceRange(match.begin, match.end, match.replacement);
     }
     endUndoAction();
 }
@@ -186,8 +188,8 @@ bool Editor::mend()
         return false;
     }
     beginUndoAction();
-    replace(begin, token.end, QByteArray()); // so that the mark goes with what it was about
-    replace(begin, begin, text);
+    replaceRange(begin, token.end, QByteArray()); // so that the mark goes with what it was about
+    replaceRange(begin, begin, text);
     endUndoAction();
     SendScintilla(SCI_GOTOPOS, position(begin + text.size()));
     return true;
@@ -275,7 +277,7 @@ void Editor::putIn(const Candidate& candidate)
     const QByteArray text = candidate.text.toUtf8();
     const qsizetype end = std::min<qsizetype>(m_candidatesEnd, length());
     beginUndoAction();
-    replace(std::min(m_candidatesBegin, end), end, text);
+    replaceRange(std::min(m_candidatesBegin, end), end, text);
     endUndoAction();
     SendScintilla(SCI_GOTOPOS, position(std::min(m_candidatesBegin, end) + text.size()));
 }

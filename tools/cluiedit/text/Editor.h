@@ -108,7 +108,7 @@ private:
     void showToolTip(const QPoint& place);
     void offer(bool isAsked);
     void putIn(const Candidate& candidate);
-    void replace(qsizetype begin, qsizetype end, const QByteArray& text);
+    void replaceRange(qsizetype begin, qsizetype end, const QByteArray& text);
     void goAlong(QList<qsizetype>& from, QList<qsizetype>& to);
     QByteArray view() const;
     int lineOf(qsizetype offset) const;

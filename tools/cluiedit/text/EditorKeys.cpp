@@ -31,11 +31,10 @@ void Editor::keyPressEvent(QKeyEvent* event)
     const bool isTyped = !event->text().isEmpty() && event->text().at(0).isPrint();
     const bool isErased = event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
     const bool isMove = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
-    if (isReadOnly() || isLarge()) {
-        m_popup->hide();
-    } else if (isTyped || (wasOffered && (isErased || isMove))) {
+    const bool mayOffer = !isReadOnly() && !isLarge();
+    if (mayOffer && (isTyped || (wasOffered && (isErased || isMove)))) {
         offer(false);
-    } else if (!event->text().isEmpty() || event->key() == Qt::Key_Home || event->key() == Qt::Key_End) {
+    } else if (!mayOffer || !event->text().isEmpty() || event->key() == Qt::Key_Home || event->key() == Qt::Key_End) {
         m_popup->hide();
     }
 }
