@@ -1,14 +1,16 @@
 #!/usr/bin/env python3
 """Runs clang-tidy over the sources of a build tree and fails if there is a finding.
 
-usage: tidy.py SOURCE_DIR BUILD_DIR [FOLDER...]
+usage: tidy.py SOURCE_DIR BUILD_DIR [--share I/N] [FOLDER...]
 
-With folders of the source tree, over the sources below them; without, over all.
+With folders of the source tree, over the sources below them; without, over all. With a share, over the I-th of N parts
+of them, counted from 0.
 
 A source whose text, headers, compiler options and checks are those of its last clean run is not looked at again, so
 that a second run takes a second. Needs a Ninja build that has been built: Ninja knows which headers a source includes.
 """
 
+import argparse
 import concurrent.futures
 import hashlib
 import json
@@ -45,8 +47,19 @@ def for_clang(arguments):
     return kept
 
 
-def main(source_dir, build_dir, *folders):
-    source_dir, build_dir = pathlib.Path(source_dir).resolve(), pathlib.Path(build_dir).resolve()
+def is_in_share(path, share):
+    number, of = map(int, share.split("/"))
+    return int(hashlib.sha256(str(path).encode()).hexdigest(), 16) % of == number
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("source_dir", type=lambda name: pathlib.Path(name).resolve())
+    parser.add_argument("build_dir", type=lambda name: pathlib.Path(name).resolve())
+    parser.add_argument("--share", default="0/1")
+    parser.add_argument("folders", nargs="*")
+    options = parser.parse_args()
+    source_dir, build_dir, folders = options.source_dir, options.build_dir, options.folders
     state_dir = build_dir / "tidy"
     state_dir.mkdir(exist_ok=True)
 
@@ -60,6 +73,8 @@ def main(source_dir, build_dir, *folders):
         if not source.is_relative_to(source_dir) or source.is_relative_to(build_dir) or source.suffix != ".cpp":
             continue
         if folders and not any(source.is_relative_to(source_dir / folder) for folder in folders):
+            continue
+        if not is_in_share(source.relative_to(source_dir), options.share):
             continue
         arguments = for_clang(shlex.split(entry["command"]))
         # Headers that come through a precompiled one need not be listed with the object: they are the system's.
@@ -92,10 +107,10 @@ def main(source_dir, build_dir, *folders):
         for source, run in pool.map(check, todo):
             if run.returncode != 0:
                 failed += 1
-                print(run.stdout, run.stderr, sep="\n")
+                print(run.stdout, run.stderr, sep="\n", flush=True)
     print(f"{len(commands)} sources, {len(todo)} of them looked at, {failed} with findings")
     return 1 if failed else 0
 
 
 if __name__ == "__main__":
-    sys.exit(main(*sys.argv[1:]))
+    sys.exit(main())

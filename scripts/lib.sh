@@ -41,6 +41,11 @@ need_to_test() {
     need clang-format python3 xvfb xdotool
 }
 
+need_to_sanitize() {
+    need_to_test
+    need clang llvm libclang-rt-14-dev
+}
+
 # Whether PRESET is configured with all that is installed now, as the presets stand now.
 is_configured() {
     [ -z "$configure_again" ] && [ "build/$1/build.ninja" -nt CMakePresets.json ]

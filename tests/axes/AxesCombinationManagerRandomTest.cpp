@@ -1,9 +1,7 @@
 #include <axes/AxesCombinationManager.h>
 
-#include <axes/LiteralManager.h>
-#include <axes/Records.h>
+#include <axes/ManagerChanges.h>
 #include <support/DocumentMutator.h>
-#include <support/FakeDataStream.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 #include <support/Random.h>
@@ -11,118 +9,10 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <vector>
-
 using namespace Qt::StringLiterals;
 
-// The manager against its literal version, on inputs with so few distinct words that duplicates, the same text key by
-// another split of the words, invalid records and misses are all common.
+// The manager against its literal version.
 namespace {
-
-constexpr int AnyVersion = 29;
-
-const QList<QString> Words{u"a"_s, u"a"_s, u"b"_s, u"b"_s, u"a a"_s, u"a b"_s, u"b a"_s, u"A"_s, u""_s};
-
-AxesCombination randomRecord(Random& random)
-{
-    return record({random.of(Words), random.of(Words)}, {random.of(Words), random.of(Words)},
-                  random.oneIn(2) ? QCPAxis::stLinear : QCPAxis::stLogarithmic,
-                  random.oneIn(2) ? QCPAxis::stLinear : QCPAxis::stLogarithmic, random.oneIn(2));
-}
-
-/// The answers to every query that the names \p names allow.
-template <typename Manager>
-QStringList answers(const Manager& manager, const QStringList& names)
-{
-    QStringList texts = described(manager.getAxesCombinations());
-    texts += manager.getXAxesNames();
-    for (const QString& x : names) {
-        texts += described(manager.getAxesCombinations(x));
-        texts += manager.getYAxesNames(x);
-        for (const QString& y : names) {
-            texts += described(manager.getAxesCombination(x, y));
-            const ConfigRepresentation representation(u"name"_s, x, y, names.first(), u"category"_s, false);
-            texts += manager.isRepresentationValid(&representation) ? u"valid"_s : u"invalid"_s;
-        }
-    }
-    return texts;
-}
-
-/// Does the same to both managers.
-template <typename Operation>
-void both(AxesCombinationManager& manager, LiteralManager& literal, const Operation& operation)
-{
-    operation(manager);
-    operation(literal);
-}
-
-void changeByRecords(Random& random, AxesCombinationManager& manager, LiteralManager& literal)
-{
-    const int count = random.below(12);
-    for (int i = 0; i < count; ++i) {
-        const AxesCombination combination = randomRecord(random);
-        both(manager, literal, [&](auto& target) { target.append(combination); });
-    }
-}
-
-void changeByStreams(Random& random, AxesCombinationManager& manager, LiteralManager& literal)
-{
-    std::vector<std::unique_ptr<FakeDataStream>> owner;
-    QList<cl::dataprocess::IDataStream*> streams;
-    const int count = random.below(5);
-    for (int i = 0; i < count; ++i) {
-        QSet<int> indices;
-        for (int index = -3; index < 4; ++index) {
-            if (!random.oneIn(3)) {
-                indices.insert(index);
-            }
-        }
-        owner.push_back(
-            std::make_unique<FakeDataStream>(random.of(Words), random.of(Words), random.below(7) - 2, indices));
-        streams.append(owner.back().get());
-    }
-    const int index = random.below(7) - 3;
-    both(manager, literal, [&](auto& target) { target.addCombinationsFromStreams(streams, index); });
-}
-
-/// Archives the list, spoils an element now and then, and reads it back.
-void changeByArchive(Random& random, AxesCombinationManager& manager, LiteralManager& literal)
-{
-    cl::archive::ArchiveContext context;
-    QJsonObject object;
-    EXPECT_TRUE(manager.write(object, AnyVersion, context));
-    QJsonArray array = object.value(u"axesCombinations"_s).toArray();
-    EXPECT_EQ(array.size(), literal.getAxesCombinations().size());
-    if (!array.isEmpty() && random.oneIn(2)) {
-        array.replace(random.below(array.size()), random.oneIn(2) ? QJsonValue(1) : QJsonValue());
-    }
-    object.insert(u"axesCombinations"_s, random.oneIn(10) ? QJsonValue() : QJsonValue(array));
-    both(manager, literal, [&](auto& target) { target.read(object, AnyVersion, context); });
-}
-
-void changeAtRandom(Random& random, AxesCombinationManager& manager, LiteralManager& literal)
-{
-    switch (random.below(10)) {
-    case 0:
-        both(manager, literal, [](auto& target) { target.deleteAll(); });
-        break;
-    case 1:
-        changeByArchive(random, manager, literal);
-        break;
-    case 2:
-    case 3:
-        changeByStreams(random, manager, literal);
-        break;
-    case 4:
-    case 5:
-        both(manager, literal, [](auto& target) { target.removeDuplicates(); });
-        break;
-    default:
-        changeByRecords(random, manager, literal);
-        break;
-    }
-}
 
 const QList<TestCatalogue::Array> Arrays{
     {u"Time"_s, u"Step"_s},     {u"Voltage"_s, u"Cycle"_s}, {u"Time"_s, u"Cycle"_s}, {u"Voltage"_s, u"Step"_s},
@@ -171,7 +61,7 @@ QJsonArray randomEntries(Random& random)
 
 TEST(AxesCombinationManagerRandom, EveryAnswerIsThatOfTheLiteralManager)
 {
-    QStringList names = Words;
+    QStringList names = ManagerWords;
     names += u"unknown"_s;
     names.removeDuplicates();
     Random random(1);
@@ -196,7 +86,7 @@ TEST(AxesCombinationManagerRandom, LongListsKeepTheSameRecordsWhenDuplicatesAreR
             both(manager, literal, [&](auto& target) { target.append(combination); });
         }
         both(manager, literal, [](auto& target) { target.removeDuplicates(); });
-        ASSERT_EQ(answers(manager, Words), answers(literal, Words)) << size << " records";
+        ASSERT_EQ(answers(manager, ManagerWords), answers(literal, ManagerWords)) << size << " records";
     }
 }
 

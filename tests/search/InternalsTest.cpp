@@ -12,8 +12,9 @@
 #include <cctype>
 #include <limits>
 #include <map>
-#include <ranges>
 #include <set>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -264,7 +265,8 @@ void expectSorted(std::vector<int> scores)
     }
     std::vector<std::size_t> indices;
     std::vector<int> sortedScores;
-    for (const auto& [score, index] : std::views::reverse(expected)) {
+    const std::vector<std::pair<int, std::size_t>> ordered(expected.rbegin(), expected.rend());
+    for (const auto& [score, index] : ordered) {
         sortedScores.push_back(score);
         indices.push_back(index);
     }

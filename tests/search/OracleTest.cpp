@@ -12,6 +12,7 @@
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -233,7 +234,7 @@ TEST(SearchOracle, EveryLengthAroundTheLimitsWithANulAnywhereHasTheLiteralScores
 {
     Comparison comparison("literal comparison around the limits");
     GeneratedTexts texts(Seed + 6);
-    for (const std::size_t limit : {16, 32, 48, 64, 80, 96, 112, 128, 256}) {
+    for (const std::size_t limit : std::initializer_list<std::size_t>{16, 32, 48, 64, 80, 96, 112, 128, 256}) {
         for (const std::size_t length : {limit - 1, limit, limit + 1}) {
             for (std::size_t nul = 0; nul <= length; ++nul) {
                 std::string query;
@@ -343,7 +344,7 @@ TEST(SearchOracle, TechniqueQueriesOfThousandsOfLettersHaveTheBestOfThosePaths)
     // The longest query that a list is scored for in its own way, and one with which sums wrap. The letters change,
     // since a text that goes on like the query is scored in the other way at any length.
     GeneratedTexts texts(Seed + 7);
-    for (const std::size_t length : {10'000, 12'000}) {
+    for (const std::size_t length : std::initializer_list<std::size_t>{10'000, 12'000}) {
         std::string query;
         while (query.size() < length) {
             query += "ab_ "[texts.below(4)];

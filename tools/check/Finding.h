@@ -11,7 +11,7 @@ struct Finding
 {
     Rule rule = Rule::Refused;
     Severity severity = Severity::Error;
-    qsizetype offset = 0; ///< of the place, in bytes
+    qsizetype offset = 0; ///< of the place, in bytes; where the text is not UTF-8 but UTF-16, in its form in UTF-8
     QString pointer;
     QString message; ///< what happens, and what to write instead
     QString instead{}; ///< The text to put in place of the JSON string or key at the offset; empty if none is known.
