@@ -1,18 +1,16 @@
 #!/usr/bin/env python3
-"""Checks what a DLL exports: nothing but the public interface, and all that the library exports on Linux of it.
+"""Checks what a DLL exports: nothing but the public interface, and all of it that the record of the interface has.
 
-usage: exports.py HEADER_DIRECTORY DLL LINUX_LIBRARY
+usage: exports.py HEADER_DIRECTORY DLL RECORD
 
 Public is what a header of HEADER_DIRECTORY, outside of folders named private, marks with a macro that ends in _EXPORT.
-Exit code 77 when there is no LINUX_LIBRARY to compare with.
+RECORD is a file of abi/, with the symbols that the library exports on Linux.
 """
 
 import pathlib
 import re
 import subprocess
 import sys
-
-SKIPPED = 77
 
 NAMESPACE = re.compile(r"^namespace ([\w:]+) \{", re.MULTILINE)
 EXPORTED = [re.compile(pattern, re.MULTILINE) for pattern in (
@@ -51,8 +49,9 @@ def exports_of_dll(path):
     return demangled(re.findall(r"^\t\[ *\d+\] (\S+)$", names.split("\n\n", 1)[0], re.MULTILINE))
 
 
-def exports_of_elf(path):
-    return demangled(run("nm", "--dynamic", "--defined-only", "--format=just-symbols", path).split())
+def exports_of_record(path):
+    symbols = pathlib.Path(path).read_text(encoding="utf-8").split("\nsymbols\n", 1)[1]
+    return demangled(re.findall(r"\[(\w+)\]$", symbols, re.MULTILINE))
 
 
 def demangled(symbols):
@@ -77,17 +76,14 @@ def as_on_windows(symbol):
     return re.sub(r"(\d)ul\b", r"\1ull", re.sub(r"\blong\b(?! long)(?<!long long)", "long long", symbol))
 
 
-def main(headers, dll, linux_library):
+def main(headers, dll, record):
     names = public_names(pathlib.Path(headers))
     here = exports_of_dll(dll)
     assert names and here, "nothing found to check"
     private = sorted(symbol for symbol in here if not belongs(symbol, names))
     print(f"{len(here)} symbols exported, {len(private)} of them not public", *private, sep="\n  ")
-    if not pathlib.Path(linux_library).exists():
-        print(f"Not compared: there is no {linux_library}")
-        return 1 if private else SKIPPED
 
-    there = {as_on_windows(symbol) for symbol in exports_of_elf(linux_library) if is_interface(symbol, names)}
+    there = {as_on_windows(symbol) for symbol in exports_of_record(record) if is_interface(symbol, names)}
     missing = sorted(there - here)
     print(f"{len(there)} parts of the interface exported on Linux, {len(missing)} of them not here", *missing, sep="\n  ")
     more = sorted(symbol for symbol in here - there if is_interface(symbol, names))
