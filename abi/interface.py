@@ -251,8 +251,12 @@ class Symbols:
     def exported_by(self, library):
         lines = []
         for symbol, (name, is_weak, size) in exported_symbols(library).items():
-            table = re.fullmatch("(vtable|typeinfo) for (.*)", name)
-            if table:
+            if symbol in ("__bss_start", "_edata", "_end"):
+                continue  # of the linker
+            table = re.fullmatch("(vtable|typeinfo|typeinfo name|guard variable) for (.*)", name)
+            if table and table[1] not in ("vtable", "typeinfo"):
+                is_ours = False  # nobody outside of the library asks for it
+            elif table:
                 of = table[2]
                 if table[1] == "vtable" and of in self.places and size != 8 * (self.places[of] + 2):
                     fail(f"{library}: the {name} has {size // 8 - 2} places, in its header there are {self.places[of]}")

@@ -38,7 +38,7 @@ need_to_edit() {
 
 need_to_test() {
     need_to_edit
-    need clang-format python3 python3-clang-14 xvfb xdotool
+    need clang-format python3 python3-clang-14 doxygen graphviz xvfb xdotool
 }
 
 need_to_sanitize() {

@@ -17,9 +17,14 @@ public:
     ClConfigDataArray();
 
     /// An array of the name \p name in the category \p category, both taken as they are.
+    /// \param name what people call it; unique in the category
+    /// \param physicalParameter the quantity; None for counters, identifiers and texts
+    /// \param dataType how a value is stored
+    /// \param unit the unit of the values
     /// \param configType whether the values are measured or computed
     /// \param description one sentence for people
     /// \param machineName the name in exchanged files, such as "voltage_volt"
+    /// \param category what the array belongs to, such as PotentiostatMeasure()
     /// \param required whether every record of the category holds the array
     /// \param formula how the values follow from other arrays; empty for measured ones
     /// The export category is ExportCategory::Complete until it is set.
@@ -39,6 +44,8 @@ public:
     /// Stores the whole description in \p object; always true.
     bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const override;
 
+    /// \{
+    /// As the constructor was told, or as it was read.
     const cl::datastorage::PhysicalParameter& getPhysicalParameter() const { return m_physicalParameter; }
     cl::datastorage::DataType getDataType() const { return m_dataType; }
     cl::datastorage::UsualUnit getUsualUnit() const { return m_unit; }
@@ -47,9 +54,13 @@ public:
     const QString& getMachineName() const { return m_machineName; }
     bool isRequired() const { return m_required; }
     const QString& getFormula() const { return m_formula; }
+    /// \}
 
+    /// \{
+    /// When the array goes into an export.
     ExportCategory getExportCategory() const { return m_exportCategory; }
     void setExportCategory(ExportCategory exportCategory) { m_exportCategory = exportCategory; }
+    /// \}
 
     /// The category of what a potentiostat measures: every array of a recorded data row.
     // NOLINTNEXTLINE(readability-identifier-naming): the application calls it so

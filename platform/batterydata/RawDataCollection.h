@@ -21,6 +21,7 @@ namespace cl::batterydata {
 class CLBATTERYDATA_EXPORT RawDataCollection : public lumo::tools::Singleton<RawDataCollection>
 {
 public:
+    /// Begins with the shipped catalogue. Called by instance() alone.
     explicit RawDataCollection(lumo::tools::Singleton<RawDataCollection>::token);
     RawDataCollection(const RawDataCollection&) = delete;
     RawDataCollection& operator=(const RawDataCollection&) = delete;

@@ -20,8 +20,11 @@ public:
     virtual const QString& getCategory() const = 0;
     /// The name of the data array that the stream holds.
     virtual const QString& getName() const = 0;
+    /// The quantity of the values; None if they have none.
     virtual const cl::datastorage::PhysicalParameter& getPhysicalParameter() const = 0;
+    /// How a value is stored.
     virtual cl::datastorage::DataType getDataType() const = 0;
+    /// The unit of the values.
     virtual cl::datastorage::UsualUnit getUsualUnit() const = 0;
     /// Whether the stream has values at \p index of its own numbering. A false result is no error.
     virtual bool hasIndex(int index) const = 0;

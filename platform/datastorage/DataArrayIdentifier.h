@@ -18,6 +18,7 @@ class CLDATASTORAGE_EXPORT DataArrayIdentifier
 public:
     /// Name and category are empty.
     DataArrayIdentifier() = default;
+    /// Takes both as they are.
     DataArrayIdentifier(const QString& name, const QString& category)
         : m_name(name)
         , m_category(category)
@@ -35,10 +36,13 @@ public:
     /// Stores "name" and "category" in \p object; always true.
     virtual bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const;
 
+    /// \{
+    /// The name of the array, and the category that the name belongs to.
     const QString& getName() const { return m_name; }
     const QString& getCategory() const { return m_category; }
     void setName(const QString& name) { m_name = name; }
     void setCategory(const QString& category) { m_category = category; }
+    /// \}
 
 private:
     QString m_name;

@@ -36,15 +36,20 @@ public:
     {
     }
 
+    /// \{
+    /// The type of a component; None for one that the unit does not have.
     constexpr UsualUnitType getUnit1() const { return m_unit1; }
     constexpr UsualUnitType getUnit2() const { return m_unit2; }
     constexpr UsualUnitType getUnit3() const { return m_unit3; }
     constexpr UsualUnitType getUnit4() const { return m_unit4; }
+    /// \}
 
+    /// \{
     /// Whether there is a second (third, fourth) component, that is one of another type than None.
     constexpr bool hasUnit2() const { return m_unit2 != UsualUnitType::None; }
     constexpr bool hasUnit3() const { return m_unit3 != UsualUnitType::None; }
     constexpr bool hasUnit4() const { return m_unit4 != UsualUnitType::None; }
+    /// \}
 
     /// The operator before the second component.
     constexpr UsualUnitOperator getOperator() const { return m_operator1; }

@@ -42,17 +42,26 @@ public:
     /// identifier stays stored when Y refused.
     virtual bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const;
 
+    /// \{
+    /// The data array on the axis.
     const cl::datastorage::DataArrayIdentifier& getConfigX() const { return m_configX; }
     const cl::datastorage::DataArrayIdentifier& getConfigY() const { return m_configY; }
+    /// \}
 
-    // Not const, unlike every other getter of the record: the interface is meant that way.
+    /// \{
+    /// How the scale of the axis starts out: linear or logarithmic.
+    // The getters are not const, unlike every other one of the record: the interface is meant that way.
     QCPAxis::ScaleType getDefaultScaleX() { return m_defaultScaleX; } // NOLINT(readability-make-member-function-const)
     QCPAxis::ScaleType getDefaultScaleY() { return m_defaultScaleY; } // NOLINT(readability-make-member-function-const)
     void setDefaultScaleX(QCPAxis::ScaleType scale) { m_defaultScaleX = scale; }
     void setDefaultScaleY(QCPAxis::ScaleType scale) { m_defaultScaleY = scale; }
+    /// \}
 
+    /// \{
+    /// Whether the axes start out orthonormal.
     bool isOrthonormal() const { return m_orthonormal; }
     void setConfigurationOrthonormal(bool orthonormal) { m_orthonormal = orthonormal; }
+    /// \}
 
     /// The pairing alone, without scales and flag.
     DataStreamCombination getDataStreamCombination() const;

@@ -19,6 +19,7 @@ class ClConfigDataArrayManager;
 
 namespace uiconfig {
 
+/// How the section stands in the document.
 inline constexpr Section AxesCombinationsSection{keys::AxesCombinations, Section::Type::Array,
                                                  QLatin1StringView("Axes combinations array missing")};
 

@@ -22,15 +22,20 @@ public:
     /// The number by which add() takes a Y name.
     qint32 numberY(const QString& y);
 
-    /// The names that have the numbers, in the text that numberX() and numberY() were given first.
+    /// \{
+    /// The name that has the number, in the text that numberX() or numberY() was given first. REQUIRES: they have given
+    /// the number out.
     const QString& xName(qint32 x) const { return m_xNames.at(x); }
     const QString& yName(qint32 y) const { return m_yNames.at(y); }
+    /// \}
 
     /// Adds a record under the names of two numbers. Who adds many records asks for each number once. REQUIRES: records
     /// are added in ascending order.
     void add(qint32 x, qint32 y, qsizetype record);
+    /// Adds a record under two names.
     void add(const QString& x, const QString& y, qsizetype record) { add(numberX(x), numberY(y), record); }
 
+    /// Forgets the records, the names and their numbers.
     void clear();
 
     /// Makes room for \p records altogether.

@@ -12,6 +12,7 @@
 class CLCONFIGUI_EXPORT ConfigRepresentation
 {
 public:
+    /// Takes everything as it is; nothing is checked.
     ConfigRepresentation(QString name, QString x, QString y1, QString y2, QString category, bool isDefault);
     ConfigRepresentation(const ConfigRepresentation& other);
     ConfigRepresentation(ConfigRepresentation&& other) noexcept;
@@ -19,6 +20,7 @@ public:
     ConfigRepresentation& operator=(ConfigRepresentation&& other) noexcept;
     ~ConfigRepresentation();
 
+    /// The name by which the user chooses it.
     const QString& name() const { return m_name; }
     /// Name of the data array on the X axis.
     const QString& x() const { return m_x; }

@@ -31,6 +31,8 @@ public:
     /// Stores the four texts under their archive keys and leaves other keys of \p object alone. Always returns true.
     virtual bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const;
 
+    /// \{
+    /// The name of the data array on the axis, or the category of that name.
     const QString& getXName() const { return m_x.getName(); }
     const QString& getXCategory() const { return m_x.getCategory(); }
     const QString& getYName() const { return m_y.getName(); }
@@ -40,6 +42,7 @@ public:
     void setXCategory(const QString& category) { m_x.setCategory(category); }
     void setYName(const QString& name) { m_y.setName(name); }
     void setYCategory(const QString& category) { m_y.setCategory(category); }
+    /// \}
 
     /// X category, X name, Y category and Y name joined by single blanks, nothing quoted or trimmed. Names that contain
     /// blanks can therefore give the key of another split of the same words.

@@ -16,6 +16,7 @@
 class JsonFields
 {
 public:
+    /// The members of an object.
     explicit JsonFields(const QJsonObject& object)
         : m_members(QCborMap::fromJsonObject(object))
     {
@@ -30,8 +31,11 @@ public:
     /// What is under \p key, undefined if it is missing.
     QCborValue value(QLatin1StringView key) const { return m_members.value(key); }
 
+    /// The text under \p key, empty if it is missing or no text.
     QString text(QLatin1StringView key) const { return value(key).toString(); }
+    /// The truth value under \p key, false if it is missing or none.
     bool flag(QLatin1StringView key) const { return value(key).toBool(); }
+    /// The array under \p key, empty if it is missing or none.
     QCborArray array(QLatin1StringView key) const { return value(key).toArray(); }
 
     /// The texts of the array \p key in order; an element that is not a string gives an empty text in its place.

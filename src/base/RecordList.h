@@ -4,6 +4,9 @@
 #include <QJsonObject>
 #include <QList>
 
+/// \file RecordList.h
+/// Reading and writing lists of records that archive themselves.
+
 /// The archived records of \p array, up to the first that refuses to be read; that one and the later ones are dropped.
 template <typename Record, typename Context>
 QList<Record> readRecords(const QJsonArray& array, int version, Context& context)

@@ -19,8 +19,10 @@ struct Refusal
 class Refusals
 {
 public:
+    /// What the readers do at the first refusal.
     enum class AtFirst { Stop, GoOn };
 
+    /// Nothing is refused yet.
     explicit Refusals(AtFirst atFirst)
         : m_atFirst(atFirst)
     {
@@ -33,6 +35,7 @@ public:
         return m_atFirst == AtFirst::GoOn;
     }
 
+    /// True when nothing was refused.
     bool isEmpty() const { return m_all.isEmpty(); }
 
     /// In the order in which the readers came across them.

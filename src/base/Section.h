@@ -12,13 +12,16 @@ namespace uiconfig {
 /// A section of the document: a member of its root.
 struct Section
 {
+    /// The JSON type that the value of a section has.
     enum class Type { Object, Array };
 
-    QLatin1StringView key;
-    Type type = Type::Object;
+    QLatin1StringView key; ///< The member of the root.
+    Type type = Type::Object; ///< What its value must be.
     QLatin1StringView missing; ///< The sentence when it is missing or has another type; empty when it may be left out.
 
+    /// Whether a document without the section is refused.
     bool isRequired() const { return !missing.isEmpty(); }
+    /// Whether \p value has the type of the section.
     bool isTypeOf(const QJsonValue& value) const { return type == Type::Array ? value.isArray() : value.isObject(); }
 };
 

@@ -5,6 +5,9 @@
 
 #include <algorithm>
 
+/// \file TitleLookup.h
+/// Looking items up by their titles.
+
 /// A copy of the first item whose getTitle() is exactly \p title, a default-constructed item when there is none.
 template <typename Item>
 Item firstWithTitle(const QList<Item>& items, const QString& title)

@@ -38,6 +38,7 @@ public:
 
     /// The representation of exactly these three names. An empty name matches only an empty name.
     ConfigRepresentation* getConfigRepresentationFromAxis(const QString& x, const QString& y1, const QString& y2) const;
+    /// The first representation of exactly this name.
     ConfigRepresentation* getConfigRepresentationFromName(const QString& name) const;
 
     /// The first representation that is marked as default.

@@ -24,12 +24,16 @@ public:
     /// Stores the numeric values of the three fields. Always returns true.
     virtual bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const;
 
+    /// \{
+    /// The parameter that has the unit, the operator that joins the further ones, and these in the order in which they
+    /// were added.
     const cl::datastorage::PhysicalParameter& getPhysicalParameter() const { return m_physicalParameter; }
     const cl::datastorage::UsualUnitOperator& getOperator() const { return m_operator; }
     const QList<cl::datastorage::PhysicalParameter>& getMultiParamsList() const { return m_multiParamsList; }
 
     void setPhysicalParameter(const cl::datastorage::PhysicalParameter& parameter) { m_physicalParameter = parameter; }
     void setOperator(const cl::datastorage::UsualUnitOperator& unitOperator) { m_operator = unitOperator; }
+    /// \}
 
     /// Appends at the end, also a parameter that is there already.
     void addMultiParamToList(const cl::datastorage::PhysicalParameter& parameter)

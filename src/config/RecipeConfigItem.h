@@ -17,6 +17,7 @@ public:
     RecipeConfigItem& operator=(const RecipeConfigItem& other);
     virtual ~RecipeConfigItem();
 
+    /// Appends at the end, also a text that is empty or there already.
     void addParameter(const QString& parameter) { m_parameters.append(parameter); }
 
     /// A copy of the parameter at \p index, counted from 0.
@@ -25,12 +26,17 @@ public:
     /// message that names the index and the number, in release builds too.
     QString getParameter(int index) const;
 
+    /// \{
     /// The name of the command group, one of UIConfig's command names.
     const QString& getType() const { return m_type; }
     void setType(const QString& type) { m_type = type; }
+    /// \}
 
+    /// \{
+    /// The title for the user; may be empty.
     const QString& getUITitle() const { return m_uiTitle; }
     void setUiTitle(const QString& title) { m_uiTitle = title; }
+    /// \}
 
 private:
     QString m_uiTitle;

@@ -65,6 +65,7 @@ public:
         qint32 lineWidth = 1; ///< Width of graph lines.
     };
 
+    /// Reads the preferences from the settings store; every section is empty. Called by instance() alone.
     explicit UIConfig(lumo::tools::Singleton<UIConfig>::token);
     ~UIConfig();
     UIConfig(const UIConfig&) = delete;
@@ -93,22 +94,31 @@ public:
 
     // NOLINTEND(readability-const-return-type)
 
-    /// The names of the commands that a recipe may contain, as they stand in the configuration document.
+    /// \{
+    /// The name of a command that a recipe may contain, as it stands in the configuration document.
     static QString graphCommand();
     static QString toolSummaryCommand();
     static QString toolStatisticsCommand();
     static QString toolRagonePlotCommand();
     static QString toolProcessedDataCommand();
+    /// \}
 
     // Axes, representations and units.
 
+    /// \{
+    /// What may be plotted against what. The manager belongs to this object.
     AxesCombinationManager& getAxesCombinationManager() { return m_axesCombinationManager; }
     const AxesCombinationManager& getAxesCombinationManager() const { return m_axesCombinationManager; }
+    /// \}
+    /// The representations, which belong to this object and are valid until deleteAll().
     const ConfigRepresentationManager& getConfigRepresentationManager() const { return m_configRepresentationManager; }
     /// The first representation marked as default, null when there is none; the manager's own, valid until deleteAll().
     ConfigRepresentation* getDefaultConfigRepresentation() const;
+    /// \{
+    /// The compound units. The manager belongs to this object; its records are valid until deleteAll().
     MSVUnitsCombinationManager& getMSVUnitsCombinationManager() { return m_msvUnitsCombinationManager; }
     const MSVUnitsCombinationManager& getMSVUnitsCombinationManager() const { return m_msvUnitsCombinationManager; }
+    /// \}
 
     // Colours.
 
@@ -121,6 +131,8 @@ public:
 
     // Columns of the tables.
 
+    /// \{
+    /// The columns of a kind of summary table, category by category; null for an array that the catalogue lacks.
     const QList<cl::batterydata::ClConfigDataArray*>& getSummaryTablePerStepColumns() const
     {
         return m_summaryTablePerStepColumns;
@@ -133,46 +145,64 @@ public:
     {
         return m_summaryTablePerLoopColumns;
     }
+    /// \}
+    /// The columns of the table of the differential capacity; null for an array that the catalogue lacks.
     const QList<cl::batterydata::ClConfigDataArray*>& getDQdUColumns() const { return m_dQdUColumns; }
+    /// The graph of the differential capacity; without title and arrays until a document was read that far.
     const DQdUAnalysisItem& getDQdUItem() const { return m_dQdUItem; }
 
     // Graphs that the tools offer.
 
+    /// The statistics graphs, by document in the order of their titles.
     const QList<StatisticsItem>& getStatsGraph() const { return m_statsGraph; }
+    /// A copy of the first one with exactly this title; one with an empty title when there is none.
     StatisticsItem getStatGraphFromTitle(const QString& title) const;
+    /// The Ragone plots, by document in the order of their titles.
     const QList<RagonePlotItem>& getRagonePlotGraph() const { return m_ragonePlotGraph; }
+    /// A copy of the first one with exactly this title; one with an empty title when there is none.
     RagonePlotItem getRagonePlotGraphFromTitle(const QString& title) const;
+    /// The processed-data graphs, in file order.
     const QList<ProcessedDataItem>& getProcessedDataGraph() const { return m_processedDataGraph; }
+    /// A copy of the first one with exactly this title; one with an empty title when there is none.
     ProcessedDataItem getProcessedDataGraphFromTitle(const QString& title) const;
 
     // Recipes and formulas.
 
+    /// The graphs that a recipe may contain, in file order.
     const QList<RecipeConfigItem>& getRecipeGraphCombinationsList() const { return m_recipeGraphCombinationsList; }
     /// The statistics entries, then the processed-data entries; their types tell them apart.
     const QList<RecipeConfigItem>& getRecipeToolsGraphsList() const { return m_recipeToolsGraphsList; }
+    /// The summary tables that a recipe may contain, in file order.
     const QList<RecipeConfigItem>& getRecipeToolsTablesList() const { return m_recipeToolsTablesList; }
     /// The formulas (as displayed, as compiled) offered for the axis "X" or "Y1"; those for Y2 for any other text.
     QList<std::pair<QString, QString>> getAxisFormulaConfigByName(const QString& axis) const;
 
     // Switches and filters.
 
+    /// The names of the tasks to skip, in file order.
     const QList<QString>& getSkippedTasks() const { return m_skippedTasks; }
+    /// \{
+    /// A switch of the section "Debug", false until a document sets it. The library does nothing with it.
     bool importDialogShowClIds() const { return m_importDialogShowClIds; }
     bool saveImportedParquetFiles() const { return m_saveImportedParquetFiles; }
     bool saveZFitInputData() const { return m_saveZFitInputData; }
+    /// \}
     /// Appends the skipped tasks of the section "Filters". Always returns true.
     bool readFilters(const QJsonObject& root, QString& error);
 
     // Files.
 
-    /// Filter texts of file dialogs, translated under the context "ui_config".
+    /// \{
+    /// A filter text for file dialogs, translated under the context "ui_config" at the time of the call.
     QString csvFileNameFilter() const;
     QString mprFileNameFilter() const;
+    /// \}
     /// The platform's documents directory, empty when it has none.
     QString getDefaultAppDirectory();
 
-    // Directories and file filter last used in file dialogs, kept for the run of the program only.
-
+    /// \{
+    /// A directory or the file filter last used in file dialogs, kept for the run of the program only. To begin with,
+    /// directories are getDefaultAppDirectory() and the filter is empty; nothing is checked.
     const QString& getLastDirectoryBoard() const { return m_lastDirectoryBoard; }
     const QString& getLastDirectoryImport() const { return m_lastDirectoryImport; }
     const QString& getLastDirectoryExport() const { return m_lastDirectoryExport; }
@@ -183,6 +213,7 @@ public:
     void setLastDirectoryExport(const QString& directory) { m_lastDirectoryExport = directory; }
     void setLastDirectoryRecipe(const QString& directory) { m_lastDirectoryRecipe = directory; }
     void setLastImportedFileFilter(const QString& filter) { m_lastImportedFileFilter = filter; }
+    /// \}
 
     // Preferences in the settings store. The application names the store by its organisation and application names.
 
@@ -191,8 +222,9 @@ public:
     /// Keeps \p configuration and writes it to the store.
     void setRenderingConfiguration(const RenderingConfiguration& configuration);
 
-    // Read from and written to the store at every call. The first three are true until set, the last false.
-
+    /// \{
+    /// A switch of the application, read from and written to the store at every call. Until it is set, confirmation
+    /// dialogs are shown, and the frequency of stickers is not.
     bool isRefreshDataConfirmDialogDisplay() const;
     void setRefreshDataConfirmDialogDisplay(bool display);
     bool isRemoveDataConfirmDialogDisplay() const;
@@ -201,11 +233,12 @@ public:
     void setDUTTypeEditionConfirmDialogDisplay(bool display);
     bool showStickersFrequency() const;
     void setShowStickersFrequency(bool show);
+    /// \}
 
 protected:
-    // The readers of the document's sections. Each appends to what is there; on failure it returns false with the
-    // reason in error and leaves what it has read so far.
-
+    /// \{
+    /// Reads a section of the document, or a part of one, and appends to what is there. On failure it returns false
+    /// with the reason in \p error and leaves what it has read so far.
     bool readRepresentations(const QJsonObject& root, QString& error);
     bool readMSVUnitsCombinationsConfig(const QJsonObject& root, QString& error);
     bool readTools(const QJsonObject& root, QString& error);
@@ -223,6 +256,7 @@ protected:
     bool readProcessFormulaConfig(const QJsonObject& root, QString& error);
     bool readDQdUColumns(const QJsonObject& root, QString& error);
     bool readDebugFlags(const QJsonObject& root, QString& error);
+    /// \}
 
 private:
     static RenderingConfiguration readRenderingConfiguration();

@@ -22,11 +22,14 @@ template <typename Container, typename Element>
 class ContainerAdaptorBase
 {
 public:
+    /// Adapts \p container, which it borrows.
     explicit ContainerAdaptorBase(Container* container); // not inline: a DLL does not export what is
 
+    /// Does nothing.
     virtual void addElement(const Element& element);
 
 protected:
+    /// The list, which is somebody else's.
     Container* m_container;
 };
 
@@ -39,6 +42,7 @@ class ContainerAdaptor : public ContainerAdaptorBase<Container, Element>
 public:
     using ContainerAdaptorBase<Container, Element>::ContainerAdaptorBase;
 
+    /// Appends a copy of \p element, also one that is there already.
     void addElement(const Element& element) override;
 };
 

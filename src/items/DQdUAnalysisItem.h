@@ -18,6 +18,8 @@ public:
     bool read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context) override;
     bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const override;
 
+    /// \{
+    /// The title, the category of the two data arrays, and the name of each of them. Nothing is checked.
     const QString& getTitle() const { return m_title; }
     const QString& getCategory() const { return m_category; }
     const QString& getStreamX() const { return m_streamX; }
@@ -27,6 +29,7 @@ public:
     void setCategory(const QString& category) { m_category = category; }
     void setStreamX(const QString& name) { m_streamX = name; }
     void setStreamY1(const QString& name) { m_streamY1 = name; }
+    /// \}
 
     /// The linear, not orthonormal combination of the two arrays; an invalid one when the catalogue lacks either.
     AxesCombination getAxesCombination() const;

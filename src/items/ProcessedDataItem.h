@@ -21,6 +21,9 @@ public:
     bool read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context) override;
     bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const override;
 
+    /// \{
+    /// The title, the category of the data arrays, the name of the one on each axis, and the names of the processed
+    /// ones that are offered. Nothing is checked; what is not used is empty.
     QString getTitle() const { return m_title; }
     QString getCategory() const { return m_category; }
     QString getStreamX() const { return m_streamX; }
@@ -34,6 +37,7 @@ public:
     void setStreamY1(const QString& name) { m_streamY1 = name; }
     void setStreamY2(const QString& name) { m_streamY2 = name; }
     void setProcessedStreamsY(const QList<QString>& names) { m_processedStreamsY = names; }
+    /// \}
 
     /// The linear, not orthonormal combination of the X and the first Y array; an invalid one when the catalogue lacks
     /// either. The second Y array and the processed ones take no part.

@@ -19,6 +19,9 @@ public:
     bool read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context) override;
     bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const override;
 
+    /// \{
+    /// Which analysis it is, its title and category, its input columns and the paths of its runs, these in the order in
+    /// which they were added. Nothing is checked.
     const QString& getId() const { return m_id; }
     const QString& getTitle() const { return m_title; }
     const QString& getCategory() const { return m_category; }
@@ -28,6 +31,7 @@ public:
     void setId(const QString& id) { m_id = id; }
     void setTitle(const QString& title) { m_title = title; }
     void setCategory(const QString& category) { m_category = category; }
+    /// \}
 
     /// Appends at the end, also a name that is empty or there already.
     void addInputColToList(const QString& name) { m_inputColumns.append(name); }

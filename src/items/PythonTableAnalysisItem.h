@@ -18,6 +18,7 @@ public:
     bool read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context) override;
     bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const override;
 
+    /// The names of the output columns, in the order in which they were added.
     const QList<QString>& getOutputColumnsList() const { return m_outputColumns; }
 
     /// Appends at the end, also a name that is empty or there already.

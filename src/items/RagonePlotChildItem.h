@@ -18,6 +18,9 @@ public:
     bool read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context) override;
     bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const override;
 
+    /// \{
+    /// The title, the category of the two data arrays, the name of each of them, and the kind of curve.
+    /// Nothing is checked.
     const QString& getTitle() const { return m_title; }
     const QString& getCategory() const { return m_category; }
     const QString& getStreamX() const { return m_streamX; }
@@ -30,6 +33,7 @@ public:
     void setStreamX(const QString& name) { m_streamX = name; }
     void setStreamY(const QString& name) { m_streamY = name; }
     void setType(const QString& type) { m_type = type; }
+    /// \}
 
     /// The linear, not orthonormal combination of the curve's two arrays; an invalid one when the catalogue lacks
     /// either.

@@ -24,8 +24,11 @@ public:
     /// Stores title and curves, up to the first curve that refuses to be written. Always true.
     virtual bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const;
 
+    /// \{
+    /// The title of the graph.
     const QString& getTitle() const { return m_title; }
     void setTitle(const QString& title) { m_title = title; }
+    /// \}
 
     /// Appends a copy, also of a curve whose title is there already.
     void addGraphItem(const RagonePlotChildItem& curve) { m_graphItems.append(curve); }
@@ -37,6 +40,7 @@ public:
     /// The titles of all curves in order, empty and repeated ones included.
     QList<QString> getGraphItemsTitleList() const;
 
+    /// The curves in order. Valid until the graph changes.
     const QList<RagonePlotChildItem>& getGraphItemsList() const { return m_graphItems; }
 
     /// Takes \p title and appends the curves that stand under it in \p section, an object of the configuration document

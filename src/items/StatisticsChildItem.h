@@ -21,6 +21,9 @@ public:
     bool read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context) override;
     bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const override;
 
+    /// \{
+    /// The title, the category of the two data arrays, the name of each of them, the kind of curve, and whether the
+    /// statistics are drawn as an envelope and as error bars. Nothing is checked.
     const QString& getTitle() const { return m_title; }
     const QString& getCategory() const { return m_category; }
     const QString& getStreamX() const { return m_streamX; }
@@ -37,6 +40,7 @@ public:
     void setType(const QString& type) { m_type = type; }
     void setIsStatisticsEnvelope(bool envelope) { m_isStatisticsEnvelope = envelope; }
     void setIsStatisticsErrorBars(bool errorBars) { m_isStatisticsErrorBars = errorBars; }
+    /// \}
 
     /// The linear, not orthonormal combination of the curve's two arrays; an invalid one when the catalogue lacks
     /// either.

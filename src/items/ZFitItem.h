@@ -24,6 +24,9 @@ public:
     bool read(const QJsonObject& object, int version, cl::archive::ArchiveContext& context) override;
     bool write(QJsonObject& object, int version, cl::archive::ArchiveContext& context) const override;
 
+    /// \{
+    /// The text as it was set or read: the circuit, the viscosity of the electrolyte, the rotation rate of the
+    /// electrode.
     const QString& getEquivalentCircuit() const { return m_equivalentCircuit; }
     const QString& getViscosity() { return m_viscosity; } // NOLINT(readability-make-member-function-const)
     const QString& getRotationRate() { return m_rotationRate; } // NOLINT(readability-make-member-function-const)
@@ -31,6 +34,7 @@ public:
     void setEquivalentCircuit(const QString& circuit) { m_equivalentCircuit = circuit; }
     void setViscosity(const QString& viscosity) { m_viscosity = viscosity; }
     void setRotationRate(const QString& rotationRate) { m_rotationRate = rotationRate; }
+    /// \}
 
     /// The element names of the circuit in order: its parts between "+", "/", "(" and ")", empty ones left out, blanks
     /// around names kept.

@@ -6,6 +6,6 @@
 /// scores of different strategies do not compare.
 struct FuzzyMatch
 {
-    std::size_t index;
-    int score;
+    std::size_t index; ///< Its place in the list of candidates.
+    int score; ///< How well it matches, by the strategy.
 };
