@@ -3,6 +3,7 @@
 #include "Output.h"
 
 #include <document/JsonLayout.h>
+#include <document/Replacement.h>
 
 #include <QBuffer>
 #include <QFile>
@@ -73,13 +74,27 @@ bool hasLayout(const JsonLayout& layout, const QByteArray& text)
     return comparison.isEqual();
 }
 
-void writeInPlace(const JsonLayout& layout, const QString& path)
+/// Replaces the file, whose text is \p text, unless it has another one by then.
+void writeInPlace(const JsonLayout& layout, const InputFile& input, const QByteArray& text)
 {
+    const auto failToWrite = [&](const QString& reason) {
+        fail(u"Cannot write \"%1\", which stays as it is: %2"_s.arg(input.name(), reason));
+    };
     // The new file takes the old one's place in one step, or not at all. Unbuffered, because commit() would not notice
     // that the rest in a buffer has no place on the disk.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !layout.write(file) || !file.commit()) {
-        fail(u"Cannot write \"%1\", which stays as it is: %2"_s.arg(path, file.errorString()));
+    QSaveFile file(input.path());
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !layout.write(file)) {
+        failToWrite(file.errorString());
+    }
+    QString error;
+    if (!prepareReplacement(file, error)) {
+        failToWrite(error);
+    }
+    if (readAll(input) != text) {
+        failToWrite(u"somebody has changed it meanwhile; format it once more"_s);
+    }
+    if (!commitReplacement(file, error)) {
+        failToWrite(error);
     }
 }
 
@@ -115,7 +130,7 @@ void format(const FormatOptions& options)
     } else if (!options.inPlace) {
         writeToStandardOutput(layout);
     } else if (!hasLayout(layout, text)) {
-        writeInPlace(layout, input.path());
+        writeInPlace(layout, input, text);
     }
 }
 
@@ -138,6 +153,10 @@ void addFormatCommand(CLI::App& program)
     command->footer(
         R"(Keys, their order, unknown and repeated ones included, the digits of numbers and the spelling of texts stay as
 they are, so that the document means what it meant.
+
+--in-place keeps owner, group and permissions, and leaves the file alone where it may not, where the disk fails, and
+where somebody else has changed it meanwhile. Of a symbolic link, the file that it names is replaced; other hard links
+keep the old one.
 
 Examples:
   cluiconfig format my.json               see what it would look like

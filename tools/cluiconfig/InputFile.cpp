@@ -70,7 +70,6 @@ bool isStandardInput(const std::string& argument)
 
 QByteArray readStandardInput()
 {
-    useBytes();
     constexpr qsizetype PieceSize = qsizetype{1} << 20;
     QByteArray bytes;
     qsizetype size = 0;

@@ -7,8 +7,8 @@
 #include <cerrno>
 #include <cstring>
 
-#ifdef _WIN32
 #include <fcntl.h>
+#ifdef _WIN32
 #include <io.h>
 #include <windows.h>
 #else
@@ -60,13 +60,20 @@ std::optional<qsizetype> terminalWidth()
     return width > 0 ? width : UsualWidth;
 }
 
-void useBytes()
+void prepareStreams()
 {
 #ifdef _WIN32
     _setmode(_fileno(stdin), _O_BINARY);
     _setmode(_fileno(stdout), _O_BINARY);
 #else
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    // Opened the wrong way round, they are as good as closed.
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0) {
+            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+        }
+    }
 #endif
 }
 
@@ -93,7 +100,6 @@ void requireWritten(bool isWritten)
 
 void print(const QByteArray& bytes)
 {
-    useBytes();
     if (std::ferror(stdout) == 0) { // otherwise its reader has gone
         const auto size = static_cast<std::size_t>(bytes.size());
         requireWritten(std::fwrite(bytes.constData(), 1, size, stdout) == size);

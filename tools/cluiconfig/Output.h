@@ -28,8 +28,10 @@ ColorDepth colorDepth();
 /// terminal.
 std::optional<qsizetype> terminalWidth();
 
-/// Bytes are bytes: no translation of line ends, and a reader that goes away is an error of writing, not a signal.
-void useBytes();
+/// To be called first. Bytes are bytes: no translation of line ends. A reader that goes away and a file that grows too
+/// large are errors of writing, not signals. No file that is opened later takes the place of a closed stream, where
+/// output would go into it.
+void prepareStreams();
 
 /// Writes all of \p bytes to standard output, sooner or later. Ends the command with ExitCannotRun when that is not
 /// possible; a reader that has gone away is no error.

@@ -78,6 +78,7 @@ int exitCodeOf(Work work)
 
 int main(int argc, char* argv[])
 {
+    cluiconfig::prepareStreams();
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"cluiconfig"_s);
     QCoreApplication::setOrganizationName(u"Cellaro"_s);
