@@ -12,6 +12,8 @@ import os
 import pathlib
 import subprocess
 import sys
+import unittest
+import urllib.parse
 
 import program
 
@@ -222,6 +224,59 @@ class Output(InDirectory):
                          {"artifactLocation": {"uri": "a%20b.json"},
                           "region": {"startLine": finding["line"], "startColumn": finding["column"]}})
         self.assertEqual(location["logicalLocations"], [{"fullyQualifiedName": finding["pointer"]}])
+
+    def uri(self, name):
+        """What a SARIF log calls a file, in its results and in its list of files."""
+        result = subprocess.run([program.PROGRAM, "check", "--format", "sarif", "--", name], capture_output=True, cwd=self.directory,
+                                timeout=60)
+        (run,) = json.loads(result.stdout.decode())["runs"]
+        (artifact,) = run["artifacts"]
+        for each in run["results"]:
+            self.assertEqual(each["locations"][0]["physicalLocation"]["artifactLocation"], artifact["location"])
+        self.assertNotEqual(run["results"], [])
+        return artifact["location"]["uri"]
+
+    @program.needs_posix("names with any sign but a slash")
+    def test_sarif_names_files_by_uris_that_lead_back_to_them(self):
+        for name in ("a b.json", "a:b.json", "c:/d:e.json", "/a:b/c.json", "50%20.json", "#1?.json", "?", "ä µ 電.json",
+                     "[x]{y}|z^`\"<>.json", "a\\b.json", "../up/./x.json", "a//b", "//a/b.json", "/", "-x", "~x", "it's+&=;,@!$()*",
+                     b"Pr\xfcfstand.json", b"\xff:\xfe", "\n\t", "file:x", "http://x/y", "a" * 300):
+            with self.subTest(name):
+                uri = self.uri(name)
+                self.assertRegex(uri, r"\A(?:[A-Za-z0-9._~!$&'()*+,;=:@/-]|%[0-9A-F]{2})+\Z")
+                parts = urllib.parse.urlsplit(uri)
+                isAbsolute = os.fsdecode(name).startswith("/")
+                self.assertEqual((parts.scheme, parts.netloc), ("file" if isAbsolute else "", ""))
+                if not isAbsolute:
+                    parts = urllib.parse.urlsplit(urllib.parse.urljoin("file:///a/base/", uri))
+                path = urllib.parse.unquote_to_bytes(parts.path)
+                self.assertEqual(os.path.normpath(path), os.path.normpath(os.path.join(b"/a/base/", os.fsencode(name))))
+
+    @unittest.skipUnless(program.IS_WINDOWS, "needs drives")
+    def test_sarif_names_files_on_drives(self):
+        for name, uri in (("C:\\a b\\c.json", "file:///C:/a%20b/c.json"), ("C:/a.json", "file:///C:/a.json"), ("a\\b.json", "a/b.json"),
+                          ("\\\\server\\share\\a.json", "file://server/share/a.json")):
+            self.assertEqual(self.uri(name), uri)
+
+    def test_reports_for_programs_are_text_whatever_the_document_names(self):
+        halves = "A\ud800", "\udc00B", "\udfff\udbff", "C\\ud800\ud83d"
+        document = program.shipped()
+        document["Colors"]["Custom colors"] += [{"name": half, "RGB": [1, 2, 3]} for half in halves]
+        document.update({half: 0 for half in halves})
+        document["\U0001f600 \uffff\u0000\u007f\\ud800"] = 0
+        document["Axes combinations"][0]["X"][0]["Name"] = halves[0]
+        name = self.document(json.dumps(document))
+        for form in ("json", "sarif"):
+            result = subprocess.run([program.PROGRAM, "check", "--format", form, name], capture_output=True, cwd=self.directory,
+                                    timeout=60)
+            self.assertEqual((result.returncode, result.stderr), (1, b""))
+            report = json.loads(result.stdout.decode())
+            text = json.dumps(report, ensure_ascii=False)
+            text.encode()  # fails with halves of surrogate pairs
+            for shown in ("A\\\\ud800", "\\\\udc00B", "\\\\udfff\\\\udbff", "C\\\\ud800\\\\ud83d", "\U0001f600 \uffff\\u0000\u007f\\\\ud800"):
+                self.assertIn(f"the key \\\"{shown}\\\"", text)
+                self.assertIn(f'"/{shown}"', text)
+            self.assertIn('Unexpected axes combination X: A\\\\ud800 (', text)
 
     def test_sarif_of_an_unreadable_document_says_that_the_run_failed(self):
         run = json.loads(self.check("--format", "sarif", "missing.json").stdout)["runs"][0]

@@ -19,6 +19,18 @@ class Show(program.TestCase):
         rows = self.tables("show", self.file("document.json", json.dumps(document)))["Representations"]
         self.assertEqual([row["Drawn"] for row in rows], ["Y1 and Y2", "Y1", "Y2", "Y1", "Y2", "nothing"])
 
+    def test_json_is_text_whatever_the_document_names(self):
+        document = program.shipped()
+        document["Colors"]["Custom colors"] += [{"name": name, "RGB": [1, 2, 3]} for name in ("A\ud800", "\udc00\\ud800", "\U0001f600")]
+        path = self.file("document.json", document)
+        for arguments in (["show", path], ["diff", str(program.SHIPPED), path]):
+            result = subprocess.run([program.PROGRAM, *arguments, "--format", "json"], capture_output=True, timeout=60)
+            self.assertEqual(result.stderr, b"")
+            text = json.dumps(json.loads(result.stdout.decode()), ensure_ascii=False)
+            text.encode()  # fails with halves of surrogate pairs
+            for name in ("A\\\\ud800", "\\\\udc00\\\\ud800", "\U0001f600"):
+                self.assertIn(f'"{name}"', text)
+
     def test_no_document_means_the_shipped_one(self):
         self.assertEqual(self.output("show"), self.output("show", str(program.SHIPPED)))
 

@@ -41,6 +41,7 @@ Report unreadable(const QString& file, const QString& error)
 {
     Report report;
     report.file = file;
+    report.path = file.toUtf8();
     report.couldBeRead = false;
     report.verdict = {false, error};
     report.findings = {errorAboutTheFile(Rule::Unreadable, error + u'.')};
@@ -314,6 +315,7 @@ Report check(const QString& file, const Severities& severities, Subject subject)
     }
     Report report;
     report.file = file;
+    report.path = file.toUtf8();
     QJsonObject root;
     const bool isObject = JsonUtils::openJsonDocument(file, report.verdict.error, root);
     QFile source(file);

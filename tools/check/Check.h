@@ -28,7 +28,8 @@ struct Verdict
 /// What there is to say about one document or catalogue.
 struct Report
 {
-    QString file;
+    QString file; ///< As people call it.
+    QByteArray path; ///< The same for programs, which find files by the bytes of their names.
     Verdict verdict;
     bool couldBeRead = true; ///< false: nothing is known of the content
     QList<Finding> findings; ///< the error that the loader stumbles over first, then the others in document order

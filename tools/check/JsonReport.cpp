@@ -1,4 +1,5 @@
 #include "Reports.h"
+#include "Text.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -30,7 +31,7 @@ QByteArray asJson(const QList<Report>& reports)
             {u"findings"_s, findings},
         });
     }
-    return QJsonDocument(documents).toJson();
+    return withHalvesAsText(QJsonDocument(documents).toJson());
 }
 
 } // namespace cluiconfig::check

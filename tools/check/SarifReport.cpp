@@ -1,10 +1,10 @@
 #include "Reports.h"
+#include "Text.h"
 
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -17,16 +17,24 @@ QJsonObject message(const QString& text)
     return {{u"text"_s, text}};
 }
 
-/// A relative reference for a relative path, so that logs may move together with the documents.
-QJsonObject artifactLocation(const QString& file)
+/// The URI of an absolute path; a relative reference for a relative path, so that logs may move together with the
+/// documents.
+QJsonObject artifactLocation(const Report& report)
 {
-    QUrl url;
-    if (QDir::isAbsolutePath(file)) {
-        url = QUrl::fromLocalFile(file);
-    } else {
-        url.setPath(QDir::fromNativeSeparators(file), QUrl::DecodedMode);
+    QByteArray path = report.path;
+#ifdef Q_OS_WIN
+    path.replace('\\', '/');
+    const char* const root = path.startsWith("//") ? "file:" : path.startsWith('/') ? "file://" : "file:///";
+#else
+    const char* const root = "file://";
+#endif
+    QByteArray uri = path.toPercentEncoding("/:@!$&'()*+,;=");
+    if (QDir::isAbsolutePath(report.file)) {
+        uri.prepend(root);
+    } else if (uri.split('/').constFirst().contains(':')) {
+        uri.prepend("./"); // or what stands before the colon would be a scheme
     }
-    return {{u"uri"_s, QString::fromLatin1(url.toEncoded())}};
+    return {{u"uri"_s, QString::fromLatin1(uri)}};
 }
 
 QJsonArray ruleDescriptors()
@@ -45,7 +53,7 @@ QJsonArray ruleDescriptors()
 
 QJsonObject location(const Report& report, const Finding& finding)
 {
-    QJsonObject physical{{u"artifactLocation"_s, artifactLocation(report.file)}};
+    QJsonObject physical{{u"artifactLocation"_s, artifactLocation(report)}};
     if (report.couldBeRead) {
         physical.insert(u"region"_s, QJsonObject{{u"startLine"_s, finding.line}, {u"startColumn"_s, finding.column}});
     }
@@ -69,7 +77,7 @@ QByteArray asSarif(const QList<Report>& reports)
         if (!report.verdict.loads) {
             properties.insert(u"error"_s, report.verdict.error);
         }
-        artifacts.append(QJsonObject{{u"location"_s, artifactLocation(report.file)}, {u"properties"_s, properties}});
+        artifacts.append(QJsonObject{{u"location"_s, artifactLocation(report)}, {u"properties"_s, properties}});
         for (const Finding& finding : report.findings) {
             results.append(QJsonObject{
                 {u"ruleId"_s, describe(finding.rule).name},
@@ -97,7 +105,7 @@ QByteArray asSarif(const QList<Report>& reports)
         {u"version"_s, u"2.1.0"_s},
         {u"runs"_s, QJsonArray{run}},
     };
-    return QJsonDocument(log).toJson();
+    return withHalvesAsText(QJsonDocument(log).toJson());
 }
 
 } // namespace cluiconfig::check

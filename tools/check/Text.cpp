@@ -59,4 +59,22 @@ QString printable(const QString& text)
     return result;
 }
 
+QByteArray withHalvesAsText(const QByteArray& json)
+{
+    if (!json.contains("\\ud")) {
+        return json;
+    }
+    QByteArray text;
+    text.reserve(json.size());
+    for (qsizetype i = 0; i < json.size(); ++i) {
+        if (json.at(i) == '\\') {
+            const QByteArrayView escape = QByteArrayView(json).sliced(i);
+            text += escape.startsWith("\\ud") ? "\\\\" : escape.first(1);
+            ++i;
+        }
+        text += json.at(i);
+    }
+    return text;
+}
+
 } // namespace cluiconfig::check

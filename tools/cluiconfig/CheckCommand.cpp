@@ -73,11 +73,13 @@ check::Severities severities(const std::vector<std::string>& arguments)
     return result;
 }
 
-/// What the check says of \p file, by its name.
-Report reportOn(const InputFile& file, const check::Severities& severities, check::Subject subject)
+/// What the check says of the file \p argument, by its name.
+Report reportOn(const std::string& argument, const check::Severities& severities, check::Subject subject)
 {
+    const InputFile file(argument);
     Report report = check::check(file.path(), severities, subject);
     report.file = file.name();
+    report.path = isStandardInput(argument) ? file.name().toUtf8() : QByteArray::fromStdString(argument);
     report.verdict.error = file.named(report.verdict.error);
     for (Finding& finding : report.findings) {
         finding.message = file.named(finding.message);
@@ -115,7 +117,7 @@ void runCheck(const CheckOptions& options)
     int code = 0;
     QList<Report> reports;
     for (const std::string& file : options.files) {
-        const Report report = reportOn(InputFile(file), chosen, options.subject);
+        const Report report = reportOn(file, chosen, options.subject);
         code = std::max(code, exitCode(report, options.isStrict));
         if (options.format == "text") {
             print(check::asText(report, {colorDepth() != ColorDepth::None, isTerminal(stdout)}));

@@ -108,11 +108,12 @@ void print(const QByteArray& bytes)
 
 void printJson(const QByteArray& json)
 {
+    const QByteArray text = check::withHalvesAsText(json);
     if (!isTerminal(stdout)) {
-        print(json);
+        print(text);
         return;
     }
-    QStringList lines = QString::fromUtf8(json).split(u'\n');
+    QStringList lines = QString::fromUtf8(text).split(u'\n');
     for (QString& line : lines) {
         line = check::printable(line);
     }

@@ -37,7 +37,8 @@ void prepareStreams();
 /// possible; a reader that has gone away is no error.
 void print(const QByteArray& bytes);
 
-/// The same with JSON, of which a terminal gets texts with everything escaped that cannot be seen.
+/// The same with JSON that Qt has written; halves of surrogate pairs are escaped twice, so that texts are texts. A
+/// terminal gets texts with everything escaped that cannot be seen.
 void printJson(const QByteArray& json);
 
 /// Writes what print() has left, at the end of the program; the same errors.

@@ -50,9 +50,11 @@ void addSchemaCommand(CLI::App& program)
         if (*subject == "catalogue" && *hasNames) {
             throw CLI::ValidationError("--names", "is for the schema of the document");
         }
-        print(*subject == "catalogue" ? check::catalogueSchema()
-                  : *hasNames         ? schemaWithNames()
-                                      : check::documentSchema());
+        if (*hasNames) {
+            printJson(schemaWithNames());
+        } else {
+            print(*subject == "catalogue" ? check::catalogueSchema() : check::documentSchema());
+        }
     });
 }
 
