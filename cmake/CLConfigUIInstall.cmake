@@ -77,4 +77,7 @@ install(FILES
     ${PROJECT_SOURCE_DIR}/data/DataArrays.schema.json
     ${PROJECT_SOURCE_DIR}/data/techniques.txt
     DESTINATION ${data_dir} COMPONENT CLConfigUIData)
+if(CLCONFIGUI_TRANSLATIONS)
+    install(FILES ${CLCONFIGUI_TRANSLATIONS} DESTINATION ${data_dir}/translations COMPONENT CLConfigUIData)
+endif()
 install(FILES ${PROJECT_SOURCE_DIR}/docs/catalogue.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT CLConfigUIData)

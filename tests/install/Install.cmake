@@ -7,7 +7,10 @@ endif()
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BINARY_DIR} --prefix ${PREFIX} --config ${CONFIG} ${part}
     COMMAND_ERROR_IS_FATAL ANY)
 if(DATA_DIR)
-    foreach(file ${DATA_DIR}/UIConfig.json ${DATA_DIR}/UIConfig.schema.json ${DATA_DIR}/DataArrays.json
+    if(TRANSLATIONS)
+        set(translations ${DATA_DIR}/translations/clconfigui_de.qm ${DATA_DIR}/translations/clconfigui_fr.qm)
+    endif()
+    foreach(file ${translations} ${DATA_DIR}/UIConfig.json ${DATA_DIR}/UIConfig.schema.json ${DATA_DIR}/DataArrays.json
             ${DATA_DIR}/DataArrays.schema.json ${DOC_DIR}/catalogue.md)
         if(NOT EXISTS ${PREFIX}/${file})
             message(FATAL_ERROR "It is not installed: ${file}")

@@ -11,6 +11,7 @@
 #include <cluiedit/window/FindingsPanel.h>
 #include <cluiedit/window/Notice.h>
 #include <cluiedit/window/Veil.h>
+#include <config/UIConfig.h>
 #include <data/ShippedFile.h>
 #include <document/DocumentTables.h>
 #include <support/DocumentMutator.h>
@@ -406,6 +407,9 @@ TEST_P(WindowInEachLanguage, IsInThatLanguage)
     const QString title = window->menuBar()->actions().constFirst()->text();
     EXPECT_EQ(title, GetParam() == QLocale::German ? u"&Datei"_s : u"&File"_s);
     EXPECT_TRUE(window->showTab(u"Colours"_s));
+    const QString filter = lumo::tools::Singleton<UIConfig>::instance().csvFileNameFilter(); // of the library
+    EXPECT_EQ(filter,
+              GetParam() == QLocale::German ? u"CL-Test-CSV-Dateien (*.csv)"_s : u"CL-Test CSV Files (*.csv)"_s);
 }
 
 TEST_P(WindowInEachLanguage, EveryMenuHasItsOwnMnemonics)

@@ -7,6 +7,8 @@
 #include <CLConfigUI/items/ContainerAdaptor.h>
 
 #include <QFile>
+#include <QLocale>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -36,6 +38,14 @@ int main()
     if (!techniques.open(QIODevice::ReadOnly) || scaleOf(combinations.constFirst()) != QCPAxis::stLinear) {
         return 1;
     }
+#ifdef TRANSLATIONS_DIR
+    QTranslator translator;
+    if (!translator.load(QLocale(QLocale::German), QStringLiteral("clconfigui"), QStringLiteral("_"),
+                         QStringLiteral(TRANSLATIONS_DIR))) {
+        std::fputs("There is no German in " TRANSLATIONS_DIR "\n", stderr);
+        return 1;
+    }
+#endif
     std::printf("%d wide, %d combinations, %d of them over %s, %d techniques\n", WindowConfig().width,
                 static_cast<int>(combinations.size()), static_cast<int>(records), qPrintable(x),
                 static_cast<int>(techniques.readAll().count('\n')));

@@ -34,6 +34,7 @@ void installTranslations(const QLocale& locale)
             return; // wanted more than what comes behind it, and what the texts are written in
         }
         if (install(language, u"cluiedit"_s, u":/i18n"_s)) {
+            install(language, u"clconfigui"_s, u":/i18n"_s);
             const QString ofLibraries = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
             install(language, u"qtbase"_s, ofLibraries);
             install(language, u"qscintilla"_s, ofLibraries);

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Checks that the editor's translations are complete: every text of the sources, nothing else, with the same places.
+"""Checks that translations are complete: every text of the sources, nothing else, with the same places.
 
 usage: translation_test.py SOURCES TRANSLATION.ts...
 """
