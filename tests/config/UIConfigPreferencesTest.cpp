@@ -3,10 +3,18 @@
 #include <config/UIConfigTest.h>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QVariant>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 using namespace Qt::StringLiterals;
 using lumo::tools::Singleton;
@@ -148,8 +156,121 @@ TEST_F(Preferences, StoreThatCannotBeWrittenIsPassedOver)
     EXPECT_TRUE(config().getRenderingConfiguration() == rendering) << "kept for the rest of the run";
     config().setShowStickersFrequency(true);
     EXPECT_FALSE(config().showStickersFrequency()) << "what the store holds, which is nothing";
+    config().setRefreshDataConfirmDialogDisplay(false);
+    EXPECT_TRUE(config().isRefreshDataConfirmDialogDisplay());
     EXPECT_TRUE(QFileInfo(QSettings().fileName()).isDir());
 }
+
+#ifdef Q_OS_UNIX
+
+namespace {
+
+/// As on a disk that is full: nothing gets into a file, whoever runs the test.
+class FullDisk
+{
+public:
+    FullDisk()
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &m_usual), 0);
+        const rlimit none{.rlim_cur = 0, .rlim_max = m_usual.rlim_max};
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
+    }
+    ~FullDisk() { EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &m_usual), 0); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit m_usual{};
+};
+
+QByteArray contentOfStore()
+{
+    QFile file(QSettings().fileName());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList filesOfStore()
+{
+    return QFileInfo(QSettings().fileName()).dir().entryList(QDir::Files | QDir::Hidden);
+}
+
+QSettings::Status statusAfterChange()
+{
+    QSettings settings;
+    settings.setValue(u"Change"_s, 1);
+    settings.sync();
+    return settings.status();
+}
+
+const UIConfig::RenderingConfiguration OtherRendering{1, 2, 3, false, -4, 0};
+
+} // namespace
+
+TEST_F(Preferences, WhatAFullDiskDoesNotTakeHoldsForTheRunAndIsWrittenWithTheNextChange)
+{
+    store(LineWidth, 5);
+    const QByteArray before = contentOfStore();
+    ASSERT_FALSE(before.isEmpty());
+    {
+        const FullDisk disk;
+        config().setRenderingConfiguration(OtherRendering);
+        config().setShowStickersFrequency(true);
+        config().setRemoveDataConfirmDialogDisplay(false);
+        EXPECT_TRUE(config().getRenderingConfiguration() == OtherRendering);
+        EXPECT_TRUE(config().showStickersFrequency());
+        EXPECT_FALSE(config().isRemoveDataConfirmDialogDisplay());
+        EXPECT_EQ(statusAfterChange(), QSettings::AccessError);
+        EXPECT_EQ(contentOfStore(), before);
+        EXPECT_EQ(filesOfStore().size(), 1);
+    }
+    EXPECT_EQ(PrintFlags.run().lines, QStringList(u"1 1 1 0"_s)) << "other processes do not see it";
+    config().setRefreshDataConfirmDialogDisplay(false);
+    EXPECT_EQ(PrintFlags.run().lines, QStringList(u"0 0 1 1"_s));
+    EXPECT_EQ(PrintRenderingConfiguration.run().lines, QStringList(u"1 2 3 0 -4 0"_s));
+}
+
+TEST_F(Preferences, StoreThatAFullDiskDoesNotEvenLetBeginStaysEmpty)
+{
+    {
+        const FullDisk disk;
+        config().setRenderingConfiguration(OtherRendering);
+        config().setShowStickersFrequency(true);
+        EXPECT_TRUE(config().getRenderingConfiguration() == OtherRendering);
+        EXPECT_FALSE(config().showStickersFrequency()) << "what the store holds, which is nothing";
+        EXPECT_EQ(statusAfterChange(), QSettings::AccessError);
+    }
+    EXPECT_EQ(contentOfStore(), QByteArray());
+    config().setShowStickersFrequency(true);
+    EXPECT_EQ(PrintFlags.run().lines, QStringList(u"1 1 1 1"_s));
+}
+
+TEST_F(Preferences, StoreThatMayOnlyBeReadStaysAsItIs)
+{
+    if (geteuid() == 0) {
+        // Permissions do not bind root, who becomes somebody else with the same home.
+        constexpr uid_t Nobody = 65534;
+        ASSERT_EQ(chown(qPrintable(qEnvironmentVariable("HOME")), Nobody, Nobody), 0);
+        ASSERT_EQ(seteuid(Nobody), 0);
+    }
+    store(LineWidth, 5);
+    const QByteArray before = contentOfStore();
+    const QByteArray directory = QFileInfo(QSettings().fileName()).path().toLocal8Bit();
+    ASSERT_EQ(chmod(qPrintable(QSettings().fileName()), 0444), 0);
+    ASSERT_EQ(chmod(directory.constData(), 0555), 0);
+
+    EXPECT_EQ(config().getRenderingConfiguration().lineWidth, 5);
+    config().setRenderingConfiguration(OtherRendering);
+    config().setShowStickersFrequency(true);
+    EXPECT_TRUE(config().getRenderingConfiguration() == OtherRendering);
+    EXPECT_TRUE(config().showStickersFrequency()) << "for the rest of the run";
+    EXPECT_EQ(statusAfterChange(), QSettings::AccessError);
+    EXPECT_EQ(contentOfStore(), before);
+    EXPECT_EQ(filesOfStore().size(), 1);
+    ASSERT_EQ(chmod(directory.constData(), 0755), 0);
+}
+
+#endif
 
 TEST_F(Preferences, RenderingIsKeptAndWrittenKeyByKeyWithItsTypes)
 {
