@@ -100,6 +100,20 @@ class Format(program.TestCase):
         self.assertEqual(self.formatted(text), '{\n    "Title": "\\u00b5A \\/ µA",\n    "Title": 1.10E+05,\n'
                          '    "unknown": -0,\n    "big": 123456789012345678901234567890\n}\n')
 
+    def test_numbers_of_any_size_are_kept(self):
+        for number in ("7" * 400 + "e-300", "-" + "7" * 400, "0." + "7" * 400, "1e400", "-1E+4000000000000", "1e-400"):
+            self.assertEqual(self.formatted('{"a":%s,"b":[%s]}' % (number, number)),
+                             '{\n    "a": %s,\n    "b": ' % number
+                             + ("[%s]" % number if len(number) < 100 else "[\n        %s\n    ]" % number) + "\n}\n")
+        for text in ("7" * 400 + "e", "7" * 400 + "..5", "1e4-", "07e1", "-e5"):
+            self.assertIn("line 1, column ", self.message(2, "format", self.file("number.json", "[%s]" % text)))
+
+    def test_halves_of_surrogate_pairs_are_kept(self):
+        for text in (r'"\ud800"', r'"\uDC00\uD800 \\ud800"', r'"\ud834\udd1e\ud834"', r'"\\\ud800\"\udfff"'):
+            self.assertEqual(self.formatted('{%s:%s}' % (text, text)), '{\n    %s: %s\n}\n' % (text, text))
+        for text in (r'"\ud80"', r'"\ud80', r'"\ud8', r'"\u', '"\\', r'"\ud80g"', r'"\U0041"'):
+            self.assertIn("line 1, column ", self.message(2, "format", self.file("text.json", "[%s]" % text)))
+
     def test_byte_order_mark_goes(self):
         self.assertEqual(self.formatted(b"\xef\xbb\xbf[ ]"), "[]\n")
 
@@ -180,7 +194,7 @@ class Format(program.TestCase):
     def test_what_is_no_json_is_refused_with_line_and_column(self):
         for text, reason in ((b'{\n  "a": [1,]\n}', "line 2, column 11"), (b'["\xff"]', "line 1, column 3: Invalid encoding"),
                              (b'["\xed\xa0\x80"]', "Invalid encoding"), (b'["\xc0\xaf"]', "Invalid encoding"),
-                             (b'["\\ud800"]', "surrogate"), (b'["a\tb"]', "line 1, column 4: a control character in a text"),
+                             (b'["\\ud80"]', "line 1, column 3: "), (b'["a\tb"]', "line 1, column 4: a control character in a text"),
                              (b'{"a":1 "b":2}', "Missing a comma"), (b"", "empty"), (b" \n", "empty"), (b"[1] 2", "column 5"),
                              (b'["\xc2\xb5" 1]', "column 6"), (b"[NaN]", "column 2"), (b"[1] // why", "column 5"),
                              ("[1]".encode("utf-16"), "line 1, column 1")):

@@ -1,6 +1,8 @@
 #include "JsonLayout.h"
 
+#include <QChar>
 #include <QIODevice>
+#include <QRegularExpression>
 
 #include <rapidjson/error/en.h>
 #include <rapidjson/memorystream.h>
@@ -36,6 +38,47 @@ QString problemAt(QByteArrayView before, const QString& problem)
 {
     const QByteArrayView line = before.sliced(before.lastIndexOf('\n') + 1);
     return u"line %1, column %2: %3"_s.arg(before.count('\n') + 1).arg(columns(line) + 1).arg(problem);
+}
+
+/// Whether the four bytes behind "\\u" make half of a pair of units.
+bool isHalf(QByteArrayView digits)
+{
+    bool isNumber = false;
+    const uint unit = digits.toUInt(&isNumber, 16);
+    return digits.size() == 4 && isNumber && QChar::isSurrogate(unit);
+}
+
+/// A text of the same tokens without what is JSON, but more than the parser can take: numbers beyond a double, of which
+/// it is not asked what they are worth, and escapes of one half of a pair, of which it is not asked what they mean.
+QByteArray easyText(QByteArray text)
+{
+    static const QRegularExpression number(u"\\A-?(0|[1-9][0-9]*)(\\.[0-9]+)?([eE][+-]?[0-9]+)?\\z"_s);
+    constexpr QByteArrayView NumberBytes("+-.0123456789Ee");
+    constexpr qsizetype MostDigits = 300;
+    bool isInText = false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char byte = text.at(i);
+        if (byte == '"') {
+            isInText = !isInText;
+        } else if (isInText && byte == '\\') {
+            if (QByteArrayView(text).sliced(i).startsWith("\\u") && isHalf(text.mid(i + 2, 4))) {
+                text.replace(i + 2, 4, "0000");
+            }
+            ++i;
+        } else if (!isInText && (byte == '-' || (byte >= '0' && byte <= '9'))) {
+            const auto* const end =
+                std::find_if_not(text.cbegin() + i, text.cend(), [&](char each) { return NumberBytes.contains(each); });
+            const QByteArrayView digits = QByteArrayView(text.cbegin() + i, end);
+            const qsizetype size = digits.size();
+            const bool isLarge = size > MostDigits || digits.contains('e') || digits.contains('E');
+            if (isLarge && number.match(QString::fromLatin1(digits)).hasMatch()) {
+                std::fill_n(text.begin() + i, size, '0');
+                text[i + 1] = '.';
+            }
+            i += size - 1;
+        }
+    }
+    return text;
 }
 
 } // namespace
@@ -302,7 +345,8 @@ bool JsonLayout::read(const QByteArray& text, QString& error)
         error = u"larger than 4 GB"_s;
         return false;
     }
-    rapidjson::MemoryStream stream(m_text.constData(), static_cast<std::size_t>(m_text.size()));
+    const QByteArray easy = easyText(m_text);
+    rapidjson::MemoryStream stream(easy.constData(), static_cast<std::size_t>(easy.size()));
     rapidjson::Reader reader;
     Tokens tokens(*this, stream);
     constexpr unsigned Flags =

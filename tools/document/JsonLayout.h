@@ -24,7 +24,8 @@ namespace cluiconfig {
 class JsonLayout
 {
 public:
-    /// Takes \p text apart; true on success. What is not JSON in UTF-8, or nested more than 1024 deep, which the
+    /// Takes \p text apart; true on success. Numbers of any size and lone surrogates as escapes, which are JSON, are
+    /// taken as they stand. What is not JSON in UTF-8, or nested more than 1024 deep, which the
     /// application refuses too, gives false with line, column and reason in \p error.
     bool read(const QByteArray& text, QString& error);
 
