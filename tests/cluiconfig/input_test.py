@@ -55,7 +55,7 @@ class StandardInput(program.TestCase):
         catalogue = (program.SHIPPED.parent / "DataArrays.json").read_text(encoding="utf-8")
         for arguments in (["diff", "-", "-"], ["check", "-", "-"], ["show", "-", "--catalogue", "-"]):
             result = self.given(catalogue, *arguments)
-            self.assertEqual(result.returncode, 2)
+            self.assertEqual((result.returncode, result.stdout), (2, ""))
             self.assertIn('"-" is named twice', result.stderr)
 
     def test_cannot_be_replaced(self):

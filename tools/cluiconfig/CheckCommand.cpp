@@ -6,6 +6,7 @@
 #include <check/Suggest.h>
 
 #include <algorithm>
+#include <list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -73,10 +74,10 @@ check::Severities severities(const std::vector<std::string>& arguments)
     return result;
 }
 
-/// What the check says of the file \p argument, by its name.
-Report reportOn(const std::string& argument, const check::Severities& severities, check::Subject subject)
+/// What the check says of \p file, which the command line calls \p argument, by its name.
+Report reportOn(const InputFile& file, const std::string& argument, const check::Severities& severities,
+                check::Subject subject)
 {
-    const InputFile file(argument);
     Report report = check::check(file.path(), severities, subject);
     report.file = file.name();
     report.path = isStandardInput(argument) ? file.name().toUtf8() : QByteArray::fromStdString(argument);
@@ -116,8 +117,10 @@ void runCheck(const CheckOptions& options)
     const check::Severities chosen = severities(options.rules);
     int code = 0;
     QList<Report> reports;
-    for (const std::string& file : options.files) {
-        const Report report = reportOn(file, chosen, options.subject);
+    const std::list<InputFile> files(options.files.begin(), options.files.end()); // before anything is printed
+    auto file = files.begin();
+    for (const std::string& argument : options.files) {
+        const Report report = reportOn(*file++, argument, chosen, options.subject);
         code = std::max(code, exitCode(report, options.isStrict));
         if (options.format == "text") {
             print(check::asText(report, {colorDepth() != ColorDepth::None, isTerminal(stdout)}));
