@@ -98,6 +98,9 @@ struct EntryReader
 
     bool pairWithYs(const NamedArrays& xs)
     {
+        if (combinations == nullptr && defaults && resolvedYs.size() == yReferences.size()) {
+            return true; // no pair can be refused any more
+        }
         qsizetype index = 0;
         for (const auto& reference : std::as_const(yReferences)) {
             // Resolved when it is first needed, which decides what is appended before a refusal and which refusal
@@ -130,9 +133,9 @@ struct EntryReader
         if (!defaults && !readDefaults()) {
             return false;
         }
-        if (!x.isStandIn && !y.isStandIn) {
-            combinations.emplaceBack(*x.identifier, *y.identifier, defaults->scaleX, defaults->scaleY,
-                                     defaults->orthonormal);
+        if (combinations != nullptr && !x.isStandIn && !y.isStandIn) {
+            combinations->emplaceBack(*x.identifier, *y.identifier, defaults->scaleX, defaults->scaleY,
+                                      defaults->orthonormal);
         }
         return true;
     }
@@ -154,7 +157,7 @@ struct EntryReader
     const JsonFields entry;
     const qsizetype number; // of the entry
     const ClConfigDataArrayManager& catalogue;
-    QList<AxesCombination>& combinations;
+    QList<AxesCombination>* const combinations; // null when only refusals are asked for
     Refusals& refusals;
     QCborArray yReferences{};
     QVarLengthArray<NamedArrays, 16> resolvedYs{}; // of the Y references so far
@@ -162,15 +165,19 @@ struct EntryReader
     std::optional<PlotDefaults> defaults{}; // read when the first pair needs them
 };
 
-} // namespace
+bool readEntry(const QJsonObject& entry, qsizetype index, const ClConfigDataArrayManager& catalogue,
+               QList<AxesCombination>* combinations, Refusals& refusals)
+{
+    return EntryReader{JsonFields(entry), index, catalogue, combinations, refusals}.read();
+}
 
-bool readAxesCombinations(const QJsonArray& entries, const ClConfigDataArrayManager& catalogue,
-                          QList<AxesCombination>& combinations, Refusals& refusals)
+bool readEntries(const QJsonArray& entries, const ClConfigDataArrayManager& catalogue,
+                 QList<AxesCombination>* combinations, Refusals& refusals)
 {
     qsizetype index = 0;
     for (const auto& entry : entries) {
         const bool goesOn = entry.isObject()
-            ? readAxesCombination(entry.toObject(), index, catalogue, combinations, refusals)
+            ? readEntry(entry.toObject(), index, catalogue, combinations, refusals)
             : refusals.goOnAfter(EntryNotAnObject, jsonPointer(keys::AxesCombinations, index));
         if (!goesOn) {
             return false;
@@ -180,10 +187,24 @@ bool readAxesCombinations(const QJsonArray& entries, const ClConfigDataArrayMana
     return true;
 }
 
+} // namespace
+
+bool readAxesCombinations(const QJsonArray& entries, const ClConfigDataArrayManager& catalogue,
+                          QList<AxesCombination>& combinations, Refusals& refusals)
+{
+    return readEntries(entries, catalogue, &combinations, refusals);
+}
+
 bool readAxesCombination(const QJsonObject& entry, qsizetype index, const ClConfigDataArrayManager& catalogue,
                          QList<AxesCombination>& combinations, Refusals& refusals)
 {
-    return EntryReader{JsonFields(entry), index, catalogue, combinations, refusals}.read();
+    return readEntry(entry, index, catalogue, &combinations, refusals);
+}
+
+bool lookThroughAxesCombinations(const QJsonArray& entries, const ClConfigDataArrayManager& catalogue,
+                                 Refusals& refusals)
+{
+    return readEntries(entries, catalogue, nullptr, refusals);
 }
 
 } // namespace uiconfig

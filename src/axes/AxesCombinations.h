@@ -38,4 +38,10 @@ CLCONFIGUI_EXPORT bool readAxesCombination(const QJsonObject& entry, qsizetype i
                                            const cl::batterydata::ClConfigDataArrayManager& catalogue,
                                            QList<AxesCombination>& combinations, Refusals& refusals);
 
+/// Reads the entries for what is refused in them, and appends nothing: a few lines can give millions of combinations.
+/// True when nothing stopped the reading.
+CLCONFIGUI_EXPORT bool lookThroughAxesCombinations(const QJsonArray& entries,
+                                                   const cl::batterydata::ClConfigDataArrayManager& catalogue,
+                                                   Refusals& refusals);
+
 } // namespace uiconfig

@@ -28,7 +28,9 @@ struct SectionReader
 
 bool readAxes(const QJsonValue& section, const Reading& with)
 {
-    return readAxesCombinations(section.toArray(), with.catalogue, with.to.axesCombinations, with.refusals);
+    return with.takesAxesCombinations
+        ? readAxesCombinations(section.toArray(), with.catalogue, with.to.axesCombinations, with.refusals)
+        : lookThroughAxesCombinations(section.toArray(), with.catalogue, with.refusals);
 }
 
 constexpr std::array SectionReaders{

@@ -126,6 +126,9 @@ struct Reading
     const Catalogue& catalogue; ///< Must outlive the columns that are read.
     Configuration& to; ///< What was read is appended here.
     Refusals& refusals; ///< Told of what is refused, and asked whether to go on.
+    /// Whether the axes combinations are wanted, of which a few lines can give millions. If not, they are read all the
+    /// same for what is refused in them.
+    bool takesAxesCombinations = true;
 };
 
 /// Reads the version of the document \p root and then its sections, and appends what they say. A reading that was

@@ -1,9 +1,15 @@
 #include <axes/AxesCombinationManager.h>
 
+#include <axes/AxesCombinations.h>
 #include <axes/Records.h>
+#include <base/Singleton.h>
+#include <batterydata/RawDataCollection.h>
+#include <support/DocumentMutator.h>
 #include <support/Json.h>
 #include <support/QtPrinters.h>
 #include <support/TestCatalogue.h>
+
+#include <QJsonDocument>
 
 #include <gtest/gtest.h>
 
@@ -203,6 +209,9 @@ TEST_F(AxesCombinationReader, PlaceMarkersInsideANameAreFilledByTheCategory)
     EXPECT_EQ(messageFor(u"X"_s, u"%1"_s, u"C"_s), u"Unexpected axes combination X: C (%2)"_s);
     EXPECT_EQ(messageFor(u"X"_s, u"%2"_s, u"C"_s), u"Unexpected axes combination X: C (C)"_s);
     EXPECT_EQ(messageFor(u"X"_s, u"N"_s, u"%1"_s), u"Unexpected axes combination X: N (%1)"_s);
+    EXPECT_EQ(messageFor(u"X"_s, u"%0"_s, u"C"_s), u"Unexpected axes combination X: C (%2)"_s);
+    EXPECT_EQ(messageFor(u"X"_s, u"%L1"_s, u"C"_s), u"Unexpected axes combination X: C (%2)"_s);
+    EXPECT_EQ(messageFor(u"X"_s, u"%99"_s, u"C"_s), u"Unexpected axes combination X: %99 (C)"_s);
     EXPECT_EQ(messageFor(u"X"_s, u"%3"_s, u"%2"_s), u"Unexpected axes combination X: %3 (%2)"_s);
     EXPECT_EQ(messageFor(u"Y1/Y2"_s, u"%1"_s, u"%2"_s), u"Unexpected axes combination Y1/Y2: %2 (%2)"_s);
 }
@@ -363,4 +372,35 @@ TEST_F(AxesCombinationReader, RecordsKeepTheirIdentitiesWhenTheCatalogueChanges)
     }
     EXPECT_TRUE(readEntry(goodEntry()));
     EXPECT_EQ(list(), QStringList({GoodRecord, GoodRecord}));
+}
+
+// Who asks for the refusals alone gets the same ones, in the same order.
+TEST_F(AxesCombinationReader, RefusalsAreTheSameWithoutTheRecords)
+{
+    const auto& arrays = lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
+    const QJsonObject both = jsonObject(R"({
+        "X": [{"Name": "Time"}, {"Name": "Time", "Category": "Step"}, {"Name": "Charge", "Category": "Cycle"}],
+        "Y1/Y2": [{"Name": "Voltage"}, {"Name": "Charge", "Category": "Cycle"}, {"Name": "Time", "Category": "Loop"}],
+        "DEFAULT_SCALE_X": "LINEAR", "DEFAULT_SCALE_Y": "LINEAR", "ORTHONORMAL_AXIS": "FALSE"
+    })");
+    DocumentMutator mutator(5, {u"Time"_s, u"Cycle"_s, u"Step"_s});
+    int refused = 0;
+    for (int i = 0; i < 3000; ++i) {
+        const QJsonArray entries = mutator.mutated(QJsonArray{both, goodEntry()}).toArray();
+        for (const auto atFirst : {uiconfig::Refusals::AtFirst::Stop, uiconfig::Refusals::AtFirst::GoOn}) {
+            QList<AxesCombination> records;
+            uiconfig::Refusals expected(atFirst);
+            const bool goesOn = uiconfig::readAxesCombinations(entries, arrays, records, expected);
+            uiconfig::Refusals refusals(atFirst);
+            EXPECT_EQ(uiconfig::lookThroughAxesCombinations(entries, arrays, refusals), goesOn);
+            ASSERT_EQ(refusals.all().size(), expected.all().size()) << QJsonDocument(entries).toJson().constData();
+            for (qsizetype each = 0; each < expected.all().size(); ++each) {
+                EXPECT_EQ(refusals.all().at(each).sentence, expected.all().at(each).sentence);
+                EXPECT_EQ(refusals.all().at(each).place, expected.all().at(each).place);
+            }
+            refused += expected.isEmpty() ? 0 : 1;
+        }
+    }
+    EXPECT_GT(refused, 1000);
+    EXPECT_LT(refused, 5000);
 }

@@ -7,6 +7,7 @@
 #include <config/UIConfig.h>
 #include <data/ShippedFile.h>
 #include <datastorage/Converter.h>
+#include <items/StatisticsItem.h>
 #include <support/ConfigDocument.h>
 #include <support/DocumentFile.h>
 #include <support/Json.h>
@@ -142,6 +143,108 @@ TEST(CheckDocument, KeyThatBeginsWithAByteOrderMarkIsFound)
     EXPECT_THAT(values, ElementsAre(QJsonValue(5)));
 }
 
+TEST(Check, CategoryThatBeginsWithAByteOrderMarkIsTheOneWithoutIt)
+{
+    const ConfigDocumentCatalogue catalogue;
+    const auto withKey = [](const QByteArray& key, const QByteArray& value) {
+        return QJsonDocument(configDocument())
+            .toJson()
+            .replace("\"Per step\": {", "\"Per step\": { \"" + key + "\": " + value + ", ");
+    };
+    const QByteArray mark = "\xEF\xBB\xBF";
+    for (const QByteArray name : {"Cycle", "Nowhere"}) {
+        EXPECT_EQ(rulesOf(findingsInText(withKey(mark + name, "[]"))), rulesOf(findingsInText(withKey(name, "[]"))));
+        const Finding marked = findingsInText(withKey(mark + name, "1")).first();
+        EXPECT_EQ(marked.rule, Rule::WrongType);
+        EXPECT_EQ(marked.severity, Severity::Error);
+        EXPECT_EQ(marked.pointer, u"/Tools/Summary Table/Per step/"_s + QString::fromLatin1(name));
+    }
+}
+
+// Which titles the loader fails to find depends on how each of them is written.
+TEST(Check, WarnsOfLostCurvesExactlyWhereTheLoaderLosesThem)
+{
+    const ConfigDocumentCatalogue catalogue;
+    const QList<QByteArray> titles = {"a",
+                                      "\xC3\xA4",
+                                      "\\u00e4b",
+                                      "\xF0\x9D\x84\x9E",
+                                      "\\ufb00",
+                                      "\\ud834\\udd1e"
+                                      "c",
+                                      "\xEF\xAC\x80"
+                                      "d",
+                                      "\xEF\xBB\xBF"
+                                      "e"};
+    int lost = 0;
+    for (unsigned chosen = 0; chosen < 1U << titles.size(); ++chosen) {
+        QByteArray graphs;
+        for (qsizetype i = 0; i < titles.size(); ++i) {
+            if ((chosen & (1U << i)) != 0) {
+                graphs += (graphs.isEmpty() ? "\"" : ", \"") + titles.at(i) + R"(": [{ "Title": "Curve" }])";
+            }
+        }
+        QJsonObject document = configDocument();
+        document.insert(u"Statistics"_s, u"graphs"_s);
+        const QByteArray bytes = QJsonDocument(document).toJson().replace("\"graphs\"", "{ " + graphs + " }");
+        const Result result = checkDocument(bytes, QJsonDocument::fromJson(bytes).object());
+        QStringList without;
+        for (const StatisticsItem& graph : result.configuration.statistics) {
+            if (graph.getGraphItemsList().isEmpty()) {
+                without.append(u"/Statistics/"_s + graph.getTitle());
+            }
+        }
+        QStringList warned;
+        for (const Finding& finding : result.findings) {
+            if (finding.rule == Rule::LostCurves) {
+                warned.append(finding.pointer); // in which the byte-order mark is gone, as for the loader
+            }
+        }
+        without.sort();
+        warned.sort();
+        EXPECT_EQ(warned, without) << graphs.constData();
+        EXPECT_TRUE(result.verdict.loads) << result.verdict.error.toStdString();
+        lost += static_cast<int>(without.size());
+    }
+    EXPECT_GT(lost, 0);
+}
+
+TEST(Check, FirstErrorHasTheSentenceOfTheLoaderEvenWhereANameGarblesIt)
+{
+    const ConfigDocumentCatalogue catalogue;
+    const auto sentenceFor = [](const QString& name) {
+        QJsonObject document = configDocument();
+        document.insert(
+            u"Axes combinations"_s,
+            QJsonArray{QJsonObject{{u"X"_s, QJsonArray{QJsonObject{{u"Name"_s, name}, {u"Category"_s, u"Cat"_s}}}}}});
+        const QByteArray bytes = QJsonDocument(document).toJson();
+        const Result result = checkDocument(bytes, QJsonDocument::fromJson(bytes).object());
+        EXPECT_EQ(result.findings.first().pointer, u"/Axes combinations/0/X/0/Category"_s);
+        EXPECT_EQ(result.findings.first().severity, Severity::Error);
+        return result.verdict.error;
+    };
+    EXPECT_EQ(sentenceFor(u"A"_s), u"Unexpected axes combination X: A (Cat)"_s);
+    EXPECT_EQ(sentenceFor(u"%1"_s), u"Unexpected axes combination X: Cat (%2)"_s);
+    EXPECT_EQ(sentenceFor(u"%2"_s), u"Unexpected axes combination X: Cat (Cat)"_s);
+}
+
+TEST(Check, TextsThatBeginWithAnEscapedNulAreNotEmpty)
+{
+    const ConfigDocumentCatalogue catalogue;
+    const QByteArray document = QJsonDocument(configDocument()).toJson();
+    const auto verdictOf = [](const QByteArray& bytes) {
+        const Result result = checkDocument(bytes, QJsonDocument::fromJson(bytes).object());
+        EXPECT_THAT(rulesOf(result.findings), testing::Not(testing::Contains(u"empty-text"_s)));
+        return result.verdict.error;
+    };
+    const QByteArray name = "\"Name\": \"";
+    const qsizetype representation = document.indexOf(name, document.indexOf("\"Representations\""));
+    EXPECT_EQ(verdictOf(QByteArray(document).insert(representation + name.size(), "\\u0000")), QString());
+    EXPECT_EQ(verdictOf(QByteArray(document).replace(R"("Y2": ")", R"("Y2": "\u0000)")),
+              u"Unexpected Y2 "_s + QChar(u'\0') + u"Current"_s);
+    EXPECT_EQ(verdictOf(QByteArray(document).insert(representation, R"("\u0000Y2": "x", )")), QString());
+}
+
 TEST(Check, LinesAndColumnsCountCharactersBehindAByteOrderMark)
 {
     const ConfigDocumentCatalogue catalogue;
@@ -226,6 +329,24 @@ TEST(Check, AfterTwoHundredFindingsOfARuleTheOthersAreCounted)
     EXPECT_EQ(findings.at(0).pointer, u"/Filters/Tasks/Skipped/0"_s);
     EXPECT_EQ(findings.at(199).pointer, u"/Filters/Tasks/Skipped/199"_s);
     EXPECT_EQ(findings.at(200).message, u"99800 more findings of this rule follow, 100000 in all."_s);
+}
+
+TEST(Check, OfALongKeyNotTwoHundredPointersAreKept)
+{
+    const ConfigDocumentCatalogue catalogue;
+    const QString key(30'000, u'k');
+    QJsonArray curves;
+    for (int i = 0; i < 300; ++i) {
+        curves.append(QJsonObject{{u"X"_s, 1}});
+    }
+    QJsonObject document = configDocument();
+    document.insert(u"Statistics"_s, QJsonObject{{key, curves}});
+    QList<Finding> findings = findingsInText(QJsonDocument(document).toJson());
+    findings.removeIf([](const Finding& each) { return each.rule != Rule::WrongType; });
+    ASSERT_EQ(findings.size(), 3);
+    EXPECT_EQ(findings.at(0).pointer, u"/Statistics/"_s + key + u"/0/X"_s);
+    EXPECT_EQ(findings.at(1).pointer, u"/Statistics/"_s + key + u"/1/X"_s);
+    EXPECT_EQ(findings.at(2).message, u"298 more findings of this rule follow, 300 in all."_s);
 }
 
 TEST(Check, ErrorThatTheLoaderStumblesOverIsListedEvenAfterTwoHundredOthers)

@@ -4,7 +4,7 @@
 usage: check_test.py PROGRAM SHIPPED_DOCUMENT EXAMPLES DOCS     runs the tests
        check_test.py --table PROGRAM SHIPPED_DOCUMENT EXAMPLES DOCS   prints the table of rules of docs/check.md
 
-An example is a change to EXAMPLES/valid.json, with what is found then.
+An example is a change to EXAMPLES/valid.json, with what is found then; "times" says how often "by" stands there.
 """
 
 import json
@@ -32,7 +32,7 @@ def all_examples():
 
 def changed(example):
     valid = (EXAMPLES / "valid.json").read_text(encoding="utf-8")
-    return valid.replace(example["replace"], example["by"], 1)
+    return valid.replace(example["replace"], ", ".join([example["by"]] * example.get("times", 1)), 1)
 
 
 def rules():
@@ -56,6 +56,7 @@ def table(needs_example=False):
             shown.add((finding["severity"], message))
             change = "`%s` → `%s`" % (cell(example["replace"]), cell(example["by"])) if cell(example["by"]) \
                 else "`%s` removed" % cell(example["replace"])
+            change += ", %d times" % example["times"] if "times" in example else ""
             lines.append("| `%s` | %s | %s | %s |" % (name, finding["severity"], change, message))
         if not own and not needs_example:
             lines.append("| `%s` | %s | | %s |" % (name, severities, cell(meaning)))
@@ -355,6 +356,20 @@ class Hostile(InDirectory):
         lines = result.stdout.splitlines()
         self.assertEqual(len(lines), 1 + 201 + 1)
         self.assertIn("99800 more findings of this rule follow, 100000 in all.", lines[-2])
+
+    def test_long_keys_are_cut_off_for_people_and_whole_for_programs(self):
+        key = "k/~" * 400_000
+        document = json.loads((EXAMPLES / "valid.json").read_text(encoding="utf-8"))
+        document["Statistics"] = {key: [{"X": 1}] * 300}
+        document["Version"] = 28  # each finding is now looked for among the refusals
+        name = self.document(json.dumps(document))
+        result = self.check(name)
+        self.assertEqual(result.returncode, 1)
+        self.assertIn(" at /Statistics/%s…/0/X]" % ("k~1~0" * 16), result.stdout)
+        self.assertLess(len(result.stdout), 5000)
+        pointers = [finding["pointer"] for finding in self.findings(name)]
+        self.assertIn("/Statistics/" + key.replace("~", "~0").replace("/", "~1") + "/0/X", pointers)
+        self.assertLess(len(pointers), 30)
 
     def test_fifty_megabytes_take_bounded_time_and_memory(self):
         document = program.shipped()

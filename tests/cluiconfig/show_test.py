@@ -98,6 +98,50 @@ class Show(program.TestCase):
             self.assertNotIn("\x1b", self.palette(COLORTERM="truecolor", **without))
         self.assertNotIn("\x1b", self.output("show", "--section", "Palette"))
 
+    def with_nine_million_pairs(self, *more_ys):
+        """A small document whose axes combinations the application expands to nine million."""
+        entry = {"X": [{"Name": "Test Time / s", "Category": "Potentiostat"}] * 3000,
+                 "Y1/Y2": [{"Name": "Voltage / V", "Category": "Potentiostat"}] * 3000 + list(more_ys),
+                 "DEFAULT_SCALE_X": "LINEAR", "DEFAULT_SCALE_Y": "LINEAR", "ORTHONORMAL_AXIS": "FALSE"}
+        return self.file("nine million.json", {**program.shipped(), "Axes combinations": [entry]})
+
+    def run_in_half_a_gigabyte(self, *arguments):
+        import resource
+        limit = lambda: resource.setrlimit(resource.RLIMIT_AS, (1 << 29, 1 << 29))
+        if self.run_program("--version", preexec_fn=limit).returncode != 0:
+            self.skipTest("this program does not even start in so little memory")
+        result = self.run_program(*arguments, preexec_fn=limit)
+        return result.returncode, result.stdout, result.stderr
+
+    @program.needs_posix("a limit of memory")
+    def test_sections_that_are_not_asked_for_take_no_memory(self):
+        document = self.with_nine_million_pairs()
+        for section in ("Colors", "Debug", "Statistics"):
+            self.assertEqual(self.run_in_half_a_gigabyte("show", "--section", section, document),
+                             (0, self.output("show", "--section", section), ""))
+
+    @program.needs_posix("a limit of memory")
+    def test_sections_that_are_not_asked_for_are_refused_as_ever(self):
+        document = self.with_nine_million_pairs({"Name": "Voltage", "Category": "Potentiostat"})
+        self.assertEqual(self.run_in_half_a_gigabyte("show", "--section", "Colors", document),
+                         (1, "", "Unexpected axes combination Y1/Y2: Voltage (Potentiostat)\n"))
+
+    @program.needs_posix("a limit of memory")
+    def test_memory_that_is_not_to_be_had_is_said(self):
+        document = self.with_nine_million_pairs()
+        for arguments in (["show", document], ["show", "--section", "Representations", document], ["axes", document],
+                          ["diff", str(program.SHIPPED), document]):
+            self.assertEqual(self.run_in_half_a_gigabyte(*arguments),
+                             (2, "", "There is not enough memory for that.\n"))
+
+    @program.needs_posix("a limit of memory")
+    def test_nine_million_pairs_are_checked_in_little_memory(self):
+        document = self.with_nine_million_pairs()
+        code, output, errors = self.run_in_half_a_gigabyte("check", document)
+        self.assertEqual((code, errors), (0, ""))
+        self.assertIn("The entry gives 9000000 pairs", output)
+        self.assertIn("8999999 of the 9000000 pairs of this entry have been paired before", output)
+
     def test_document_that_cannot_be_opened_gives_exit_code_1(self):
         for path, reason in ((str(self.directory), "it is a directory"), (str(self.directory / "missing"), "")):
             self.assertIn(f'Cannot open "{path}": {reason}', self.message(1, "show", path))

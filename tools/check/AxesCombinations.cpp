@@ -1,11 +1,14 @@
 #include "Suggest.h"
 #include "private/Sections.h"
 
-#include <axes/AxesCombinations.h>
+#include <axes/AxesCombinationManager.h>
+#include <axes/DataStreamCombination.h>
 #include <base/DocumentKeys.h>
+#include <base/JsonPointer.h>
 
 #include <QHash>
 #include <QJsonObject>
+#include <QSet>
 
 #include <algorithm>
 #include <vector>
@@ -75,42 +78,165 @@ void checkReference(const Reference& reference, const Context& with)
     }
 }
 
-/// Which entry of the section paired two arrays first.
-class Pairings
+/// The arrays of one category that a side of an entry names.
+struct NamedArrays
 {
-public:
-    /// Looks at the \p combinations that \p entry, number \p number of the section, yields; adds a finding if other
-    /// entries, or the entry itself, have given some of them before.
-    void add(const QList<AxesCombination>& combinations, const Value& entry, qsizetype number, Findings& findings)
+    QStringList names; ///< each once
+    qsizetype count = 0; ///< with the repeated ones
+    QString repeated; ///< the first of those
+
+    void add(const QString& name)
     {
-        qsizetype repeated = 0;
-        QString example;
-        qsizetype firstNumber = 0;
-        for (const AxesCombination& combination : combinations) {
-            const QString pairing = combination.getDataStreamCombination().toString();
-            const auto earlier = m_firstEntries.constFind(pairing);
-            if (earlier == m_firstEntries.constEnd()) {
-                m_firstEntries.insert(pairing, number);
-            } else if (repeated++ == 0) {
-                example = quoted(combination.getConfigX().getName()) + u" and "_s
-                    + quoted(combination.getConfigY().getName());
-                firstNumber = *earlier;
-            }
-        }
-        if (repeated > 0) {
-            const QString where = firstNumber == number ? u"in this entry itself"_s
-                                                        : u"at "_s + jsonPointer(keys::AxesCombinations, firstNumber);
-            findings.warn(Rule::RepeatedCombination, entry, [&] {
-                return u"%1 of the %2 pairs of this entry have been paired before, such as %3 %4: the scales given "
-                       "there count. Remove them from one of the two."_s.arg(
-                           QString::number(repeated), QString::number(combinations.size()), example, where);
-            });
+        ++count;
+        if (!m_known.contains(name)) {
+            m_known.insert(name);
+            names.append(name);
+        } else if (repeated.isEmpty()) {
+            repeated = name;
         }
     }
 
 private:
+    QSet<QString> m_known;
+};
+
+/// What an entry pairs, category by category. A few lines can give millions of pairs: they are counted, and walked
+/// through only as far as they differ.
+class Pairs
+{
+public:
+    Pairs(const std::vector<Reference>& xs, const std::vector<Reference>& ys)
+    {
+        for (const Reference& x : xs) {
+            for (const QString& category : x.categories) {
+                if (!m_sides.contains(category)) {
+                    m_categories.append(category);
+                }
+                m_sides[category].xs.add(x.name);
+            }
+        }
+        for (const Reference& y : ys) {
+            for (const QString& category : y.categories) {
+                if (const auto sides = m_sides.find(category); sides != m_sides.end()) {
+                    sides->ys.add(y.name);
+                }
+            }
+        }
+    }
+
+    /// With the repeated ones.
+    qsizetype count() const
+    {
+        qsizetype count = 0;
+        for (const Sides& sides : m_sides) {
+            count += sides.xs.count * sides.ys.count;
+        }
+        return count;
+    }
+
+    /// Calls \p visit with every pair, each once.
+    template <typename Visit>
+    void forEach(Visit visit) const
+    {
+        for (const QString& category : m_categories) {
+            const Sides& sides = *m_sides.find(category);
+            for (const QString& x : sides.xs.names) {
+                for (const QString& y : sides.ys.names) {
+                    visit(DataStreamCombination(category, x, category, y));
+                }
+            }
+        }
+    }
+
+    /// A pair that the entry itself gives twice, if there is one.
+    std::optional<DataStreamCombination> repeated() const
+    {
+        for (const QString& category : m_categories) {
+            const auto& [xs, ys] = *m_sides.find(category);
+            if (xs.count * ys.count > xs.names.size() * ys.names.size()) {
+                const auto of = [](const NamedArrays& arrays) {
+                    return arrays.repeated.isEmpty() ? arrays.names.constFirst() : arrays.repeated;
+                };
+                return DataStreamCombination(category, of(xs), category, of(ys));
+            }
+        }
+        return std::nullopt;
+    }
+
+private:
+    struct Sides
+    {
+        NamedArrays xs;
+        NamedArrays ys;
+    };
+
+    QStringList m_categories; // in the order of the X
+    QHash<QString, Sides> m_sides; // by category
+};
+
+/// Which entry of the section paired two arrays first.
+class Pairings
+{
+public:
+    explicit Pairings(AxesCombinationManager& axes)
+        : m_axes(axes)
+    {
+    }
+
+    /// Takes the \p pairs of \p entry, number \p number of the section; adds a finding if other entries, or the entry
+    /// itself, have given some of them before.
+    void add(const Pairs& pairs, const Value& entry, qsizetype number, Findings& findings)
+    {
+        qsizetype repeated = pairs.count();
+        std::optional<DataStreamCombination> example;
+        qsizetype firstNumber = number;
+        pairs.forEach([&](const DataStreamCombination& pair) {
+            const QString key = pair.toString();
+            const auto earlier = m_firstEntries.constFind(key);
+            if (earlier == m_firstEntries.constEnd()) {
+                --repeated;
+                m_firstEntries.insert(key, number);
+                m_axes.append({{pair.getXName(), pair.getXCategory()},
+                               {pair.getYName(), pair.getYCategory()},
+                               QCPAxis::stLinear,
+                               QCPAxis::stLinear,
+                               false});
+            } else if (!example) {
+                example = pair;
+                firstNumber = *earlier;
+            }
+        });
+        if (repeated == 0) {
+            return;
+        }
+        example = example ? example : pairs.repeated();
+        findings.warn(Rule::RepeatedCombination, entry, [&] {
+            const QString where = firstNumber == number ? u"in this entry itself"_s
+                                                        : u"at "_s + jsonPointer(keys::AxesCombinations, firstNumber);
+            return u"%1 of the %2 pairs of this entry have been paired before, such as %3 and %4 %5: the scales given "
+                   "there count. Remove them from one of the two."_s.arg(
+                       QString::number(repeated), QString::number(pairs.count()), quoted(example->getXName()),
+                       quoted(example->getYName()), where);
+        });
+    }
+
+private:
+    AxesCombinationManager& m_axes;
     QHash<QString, qsizetype> m_firstEntries;
 };
+
+/// Adds a finding if an entry yields more pairs than anybody can choose from.
+void checkNumber(qsizetype pairs, const Value& entry, Findings& findings)
+{
+    constexpr qsizetype Most = 10000;
+    if (pairs > Most) {
+        findings.warn(Rule::TooManyCombinations, entry, [&] {
+            return u"The entry gives %1 pairs, each of its X with each of its Y of the same category: the application "
+                   "keeps all of them, and nobody can choose from so many. Name only arrays that belong together."_s
+                       .arg(pairs);
+        });
+    }
+}
 
 bool namesNothing(const std::vector<Reference>& references)
 {
@@ -128,9 +254,12 @@ void checkPairs(const std::vector<Reference>& references, const std::vector<Refe
         if (other.categories.isEmpty()) {
             return;
         }
-        available += other.categories;
+        for (const QString& category : other.categories) {
+            if (!available.contains(category)) {
+                available.append(category);
+            }
+        }
     }
-    available.removeDuplicates();
     const auto isAvailable = [&](const QString& category) { return available.contains(category); };
     for (const Reference& reference : references) {
         if (reference.categories.isEmpty()
@@ -150,18 +279,21 @@ void checkPairs(const std::vector<Reference>& references, const std::vector<Refe
     }
 }
 
-void checkEntry(const Value& entry, const QList<AxesCombination>& combinations, const Context& with)
+void checkEntry(const Value& entry, qsizetype number, Pairings& pairings, const Context& with)
 {
     const std::vector<Reference> xs = readReferences(entry, keys::X, with.catalogue);
     const std::vector<Reference> ys = readReferences(entry, keys::Y1Y2, with.catalogue);
-    for (const std::vector<Reference>& references : {xs, ys}) {
-        for (const Reference& reference : references) {
+    for (const std::vector<Reference>* references : {&xs, &ys}) {
+        for (const Reference& reference : *references) {
             checkReference(reference, with);
         }
     }
-    if (!combinations.isEmpty()) {
+    const Pairs pairs(xs, ys);
+    if (pairs.count() > 0) {
         checkPairs(xs, ys, keys::Y1Y2, with);
         checkPairs(ys, xs, keys::X, with);
+        checkNumber(pairs.count(), entry, with.findings);
+        pairings.add(pairs, entry, number, with.findings);
         return;
     }
     const auto isList = [&](QLatin1StringView key) { return entry.json()[key].isArray(); };
@@ -182,16 +314,11 @@ void checkEntry(const Value& entry, const QList<AxesCombination>& combinations, 
 
 void checkAxesCombinations(const Value& section, const Context& with)
 {
-    Pairings pairings;
+    Pairings pairings(with.axes);
     qsizetype number = 0;
     section.forEach([&](const Value& entry) {
         if (entry.isObject()) {
-            QList<AxesCombination> combinations;
-            uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::GoOn);
-            uiconfig::readAxesCombination(entry.json().toObject(), number, with.catalogue.arrays(), combinations,
-                                          refusals);
-            checkEntry(entry, combinations, with);
-            pairings.add(combinations, entry, number, with.findings);
+            checkEntry(entry, number, pairings, with);
         }
         ++number;
     });

@@ -196,28 +196,36 @@ Result inspect(const QByteArray& bytes, const QJsonObject& root, Subject subject
     return result;
 }
 
-} // namespace
-
-Result checkDocument(const QByteArray& bytes, const QJsonObject& root, const std::stop_token& stop)
+/// Checks a document, and takes its axes combinations only if \p takesAxesCombinations: a few lines can give millions.
+Result checkDocument(const QByteArray& bytes, const QJsonObject& root, const std::stop_token& stop,
+                     bool takesAxesCombinations)
 {
     const auto& arrays = lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
     uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::GoOn);
     uiconfig::Configuration configuration;
-    uiconfig::readConfiguration(root, {arrays, configuration, refusals});
-    const auto axes = std::make_shared<AxesCombinationManager>();
-    axes->appendAll(configuration.axesCombinations);
+    uiconfig::readConfiguration(root, {arrays, configuration, refusals, takesAxesCombinations});
 
     Result result;
     if (!stop.stop_requested()) {
         const Catalogue catalogue(arrays);
+        AxesCombinationManager pairs;
         result = inspect(bytes, root, Subject::Document, refusals, [&](const Value& document, Findings& findings) {
-            checkSections(document, {catalogue, *axes, configuration, findings}, stop);
+            checkSections(document, {catalogue, pairs, configuration, findings}, stop);
         });
     }
+    const auto axes = std::make_shared<AxesCombinationManager>();
+    axes->appendAll(configuration.axesCombinations);
     result.root = root;
     result.configuration = std::move(configuration);
     result.axes = axes;
     return result;
+}
+
+} // namespace
+
+Result checkDocument(const QByteArray& bytes, const QJsonObject& root, const std::stop_token& stop)
+{
+    return checkDocument(bytes, root, stop, true);
 }
 
 Result checkCatalogue(const QString& file, const QByteArray& bytes, const QJsonObject& root)
@@ -247,7 +255,7 @@ QList<Finding> findingsInText(const QByteArray& bytes, const QString& error, Sub
     }
     const QJsonDocument document = QJsonDocument::fromJson(mended.json());
     if (document.isObject() && subject == Subject::Document) {
-        QList<Finding> others = checkDocument(mended.json(), document.object(), stop).findings;
+        QList<Finding> others = checkDocument(mended.json(), document.object(), stop, false).findings;
         others.removeIf([&](const Finding& finding) { return mended.isMissing(finding.offset); });
         for (Finding& finding : others) {
             finding.offset = mended.originalOffset(finding.offset);
@@ -330,7 +338,8 @@ Report check(const QString& file, const Severities& severities, Subject subject)
         return unreadable(file, tooLarge(file));
     }
     if (isObject) {
-        Result result = subject == Subject::Document ? checkDocument(bytes, root) : checkCatalogue(file, bytes, root);
+        Result result =
+            subject == Subject::Document ? checkDocument(bytes, root, {}, false) : checkCatalogue(file, bytes, root);
         report.verdict = std::move(result.verdict);
         report.findings = std::move(result.findings);
     } else {

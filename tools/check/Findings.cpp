@@ -38,7 +38,7 @@ bool Findings::isKept(Rule rule, Severity severity, qsizetype offset)
     OfRule& ofRule = m_ofRule[rule];
     ++ofRule.count;
     ofRule.worst = std::max(ofRule.worst, severity);
-    return std::ssize(ofRule.kept) < MostOfARule || offset < ofRule.kept.front().finding.offset;
+    return !ofRule.isFull || offset < ofRule.kept.front().finding.offset;
 }
 
 Finding Findings::made(Rule rule, Severity severity, qsizetype offset, const QString& pointer, const Advice& advice)
@@ -51,10 +51,17 @@ void Findings::keep(const Finding& finding)
     // A heap with the last one of the document in front.
     OfRule& ofRule = m_ofRule[finding.rule];
     ofRule.kept.push_back({finding, ofRule.count});
+    ofRule.pointerSize += finding.pointer.size();
     std::push_heap(ofRule.kept.begin(), ofRule.kept.end(), isEarlier);
-    if (std::ssize(ofRule.kept) > MostOfARule) {
+    const auto isTooMuch = [&] {
+        return std::ssize(ofRule.kept) > MostOfARule
+            || (ofRule.pointerSize > LongestPointers && ofRule.kept.size() > 1);
+    };
+    while (isTooMuch()) {
         std::pop_heap(ofRule.kept.begin(), ofRule.kept.end(), isEarlier);
+        ofRule.pointerSize -= ofRule.kept.back().finding.pointer.size();
         ofRule.kept.pop_back();
+        ofRule.isFull = true;
     }
 }
 

@@ -3,6 +3,9 @@
 
 #include <base/DocumentKeys.h>
 
+#include <QJsonArray>
+#include <QJsonObject>
+
 using namespace Qt::StringLiterals;
 namespace keys = uiconfig::keys;
 
@@ -45,10 +48,36 @@ void checkPlot(const Value& plot, std::initializer_list<QLatin1StringView> axes,
     }
 }
 
+namespace {
+
+/// Adds a finding if the application, which walks through the titles of \p graphs and looks each of them up, does not
+/// come back to \p graph.
+void checkTitle(const Value& graph, const QJsonObject& graphs, Findings& findings)
+{
+    const auto found = graphs.constFind(graph.key());
+    if (found == graphs.constEnd()) {
+        findings.warnAtKey(Rule::LostCurves, graph, [] {
+            return u"The application does not find this graph by its title, and loses its curves: titles of the "
+                   "section hold rare letters, some as they are and some as escapes. Write all of them as they are."_s;
+        });
+    } else if (found.key() != graph.key()) {
+        findings.warnAtKey(Rule::LostCurves, graph, [] {
+            return u"The title begins with a byte-order mark, which nobody sees: the application drops the mark, does "
+                   "not find the graph without it, and loses its curves. Remove the mark."_s;
+        });
+    }
+}
+
+} // namespace
+
 void checkCurves(const Value& section, const Context& with)
 {
+    const QJsonObject graphs = section.json().toObject();
     section.forEach([&](const Value& graph) {
         if (graph.isArray()) {
+            if (!graph.json().toArray().isEmpty()) {
+                checkTitle(graph, graphs, with.findings);
+            }
             RepeatedNames titles(u"curve of the graph"_s, with.findings);
             graph.forEach([&](const Value& curve) {
                 titles.add(curve, keys::Title);

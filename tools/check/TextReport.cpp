@@ -37,6 +37,19 @@ QString counted(qsizetype count, const QString& what)
     return QString::number(count) + u' ' + what + (count == 1 ? QString() : u"s"_s);
 }
 
+/// \p pointer with its long keys cut off: it shall be read.
+QString readable(const QString& pointer)
+{
+    constexpr qsizetype LongestKey = 80;
+    QStringList steps = pointer.split(u'/');
+    for (QString& step : steps) {
+        if (step.size() > LongestKey) {
+            step = step.first(step.at(LongestKey - 1).isHighSurrogate() ? LongestKey - 1 : LongestKey) + u'…';
+        }
+    }
+    return printable(steps.join(u'/'));
+}
+
 /// The line of a finding, and a second one with a mark under the place.
 QString quotation(const Finding& finding, const Painter& paint)
 {
@@ -61,7 +74,7 @@ QByteArray asText(const Report& report, const TextStyle& style)
         const bool isError = finding.severity == Severity::Error;
         text += u"%1:%2:%3: "_s.arg(file, QString::number(finding.line), QString::number(finding.column));
         text += paint(isError ? Red : Magenta, toString(finding.severity) + u':') + u' ' + printable(finding.message);
-        const QString where = finding.pointer.isEmpty() ? QString() : u" at "_s + printable(finding.pointer);
+        const QString where = finding.pointer.isEmpty() ? QString() : u" at "_s + readable(finding.pointer);
         text += u" ["_s + describe(finding.rule).name + where + u"]\n"_s;
         if (style.quotesLines && !(finding.before.isEmpty() && finding.after.isEmpty())) {
             text += quotation(finding, paint);

@@ -3,6 +3,8 @@
 
 #include <base/DocumentKeys.h>
 
+#include <QJsonObject>
+
 using namespace Qt::StringLiterals;
 namespace keys = uiconfig::keys;
 
@@ -12,8 +14,11 @@ namespace {
 
 void checkKind(const Value& kind, const Context& with)
 {
+    const QJsonObject categories = kind.json().toObject();
     kind.forEach([&](const Value& columns) {
-        const QString category = columns.key();
+        const auto read = categories.constFind(columns.key());
+        const QString category =
+            read == categories.constEnd() ? columns.key() : read.key(); // a byte-order mark is gone
         if (!columns.isArray()) {
             return;
         }

@@ -44,7 +44,8 @@ void requireReadableFile(const InputFile& file)
     }
 }
 
-bool readDocument(const InputFile& file, uiconfig::Configuration& configuration, QString& error)
+bool readDocument(const InputFile& file, uiconfig::Configuration& configuration, QString& error,
+                  bool takesAxesCombinations)
 {
     refusePipe(file);
     QJsonObject root;
@@ -55,15 +56,15 @@ bool readDocument(const InputFile& file, uiconfig::Configuration& configuration,
     uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
     const auto& catalogue =
         lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
-    uiconfig::readConfiguration(root, {catalogue, configuration, refusals});
+    uiconfig::readConfiguration(root, {catalogue, configuration, refusals, takesAxesCombinations});
     return refusals.isEmpty(error);
 }
 
-uiconfig::Configuration loadDocument(const std::string& argument)
+uiconfig::Configuration loadDocument(const std::string& argument, bool takesAxesCombinations)
 {
     uiconfig::Configuration configuration;
     QString error;
-    if (!readDocument(InputFile(argument), configuration, error)) {
+    if (!readDocument(InputFile(argument), configuration, error, takesAxesCombinations)) {
         fail(error, ExitRefused);
     }
     return configuration;

@@ -18,11 +18,13 @@ constexpr auto ShippedDocument = ":/cluiconfig/UIConfig.json";
 void requireReadableFile(const InputFile& file);
 
 /// Reads what the document \p file gives the application; true on success, otherwise false with the loader's sentence
-/// in \p error. Ends the command with ExitCannotRun for a pipe or a device, without reading it.
-bool readDocument(const InputFile& file, uiconfig::Configuration& configuration, QString& error);
+/// in \p error. Ends the command with ExitCannotRun for a pipe or a device, without reading it. The axes combinations,
+/// of which a few lines can give millions, are left out unless \p takesAxesCombinations.
+bool readDocument(const InputFile& file, uiconfig::Configuration& configuration, QString& error,
+                  bool takesAxesCombinations = true);
 
 /// The same with the document that the command line names so, but ends the command with the loader's sentence when the
 /// document does not load (ExitRefused).
-uiconfig::Configuration loadDocument(const std::string& argument);
+uiconfig::Configuration loadDocument(const std::string& argument, bool takesAxesCombinations = true);
 
 } // namespace cluiconfig

@@ -73,9 +73,9 @@ void show(const ShowOptions& options)
         options.format.print({sectionsTable()});
         return;
     }
-    const uiconfig::Configuration configuration = loadDocument(options.document);
-    options.format.print(documentTables(
-        configuration, options.section.empty() ? QStringList() : headings(QString::fromStdString(options.section))));
+    const QStringList wanted =
+        options.section.empty() ? QStringList() : headings(QString::fromStdString(options.section));
+    options.format.print(documentTables(loadDocument(options.document, needAxesCombinations(wanted)), wanted));
 }
 
 } // namespace

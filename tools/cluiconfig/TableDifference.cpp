@@ -18,6 +18,14 @@ namespace {
 
 constexpr qsizetype NoRow = -1;
 
+/// \p count times no row. A list that is constructed with its size does not notice when there is no memory for it.
+QList<qsizetype> noRows(qsizetype count)
+{
+    QList<qsizetype> rows;
+    rows.resize(count);
+    return rows.fill(NoRow);
+}
+
 QString valueText(const QJsonValue& value)
 {
     if (value.isBool()) {
@@ -50,8 +58,8 @@ public:
     Pairing(const Table& table, const QJsonArray& before, const QJsonArray& after)
         : m_before(before)
         , m_after(after)
-        , m_ofBefore(before.size(), NoRow)
-        , m_ofAfter(after.size(), NoRow)
+        , m_ofBefore(noRows(before.size()))
+        , m_ofAfter(noRows(after.size()))
     {
         // Documents have most rows in common, and equal rows at the front need no searching.
         for (qsizetype i = 0; i < std::min(before.size(), after.size()) && before.at(i) == after.at(i); ++i) {
@@ -103,7 +111,7 @@ private:
 QList<qsizetype> outOfOrder(const QList<qsizetype>& places)
 {
     QList<qsizetype> ends; // for each length, the index at which the sequence with the lowest end ends
-    QList<qsizetype> previous(places.size(), NoRow);
+    QList<qsizetype> previous = noRows(places.size());
     for (qsizetype i = 0; i < places.size(); ++i) {
         if (places.at(i) == NoRow) {
             continue;

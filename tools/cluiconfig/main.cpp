@@ -7,6 +7,10 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <new>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -62,6 +66,27 @@ void answer(const CLI::App& program, const CLI::ParseError& stop)
     cluiconfig::print(QByteArray::fromStdString(text.str()));
 }
 
+/// Says that the memory did not suffice, without taking any.
+int failForMemory()
+{
+    std::fputs("There is not enough memory for that.\n", stderr);
+    return cluiconfig::ExitCannotRun;
+}
+
+/// Ends the program, where the memory did not suffice in a function that lets no exception through.
+[[noreturn]] void endForMemory()
+{
+    try {
+        if (const std::exception_ptr thrown = std::current_exception()) {
+            std::rethrow_exception(thrown);
+        }
+    } catch (const std::bad_alloc&) {
+        std::_Exit(failForMemory());
+    } catch (...) { // which tells nothing that a person could do
+    }
+    std::abort();
+}
+
 /// Runs \p work, and returns the exit code that it ends with.
 template <typename Work>
 int exitCodeOf(Work work)
@@ -70,6 +95,8 @@ int exitCodeOf(Work work)
         work();
     } catch (const CLI::RuntimeError& error) {
         return error.get_exit_code();
+    } catch (const std::bad_alloc&) {
+        return failForMemory();
     }
     return 0;
 }
@@ -79,6 +106,7 @@ int exitCodeOf(Work work)
 int main(int argc, char* argv[])
 {
     cluiconfig::prepareStreams();
+    std::set_terminate(endForMemory);
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"cluiconfig"_s);
     QCoreApplication::setOrganizationName(u"Cellaro"_s);

@@ -256,9 +256,32 @@ Table debug(const Configuration& configuration)
             .keys = {u"Switch"_s}};
 }
 
-constexpr std::array TableMakers{axesCombinations, representations, msvUnits,    filters,     tools,
-                                 palette,          defaultColors,   statistics,  ragonePlots, processedData,
-                                 recipe,           processFormulas, dQdUColumns, dQdUGraph,   debug};
+struct TableMaker
+{
+    Table (*make)(const Configuration&);
+    bool needsAxes = false; ///< Whether the axes combinations are asked.
+};
+
+constexpr std::array TableMakers{TableMaker{axesCombinations, true},
+                                 TableMaker{representations, true},
+                                 TableMaker{msvUnits},
+                                 TableMaker{filters},
+                                 TableMaker{tools},
+                                 TableMaker{palette},
+                                 TableMaker{defaultColors},
+                                 TableMaker{statistics},
+                                 TableMaker{ragonePlots},
+                                 TableMaker{processedData},
+                                 TableMaker{recipe},
+                                 TableMaker{processFormulas},
+                                 TableMaker{dQdUColumns},
+                                 TableMaker{dQdUGraph},
+                                 TableMaker{debug}};
+
+bool isAskedFor(const TableMaker& maker, const QStringList& headings)
+{
+    return headings.isEmpty() || headings.contains(maker.make({}).name);
+}
 
 } // namespace
 
@@ -270,12 +293,18 @@ QString scaleText(QCPAxis::ScaleType scale)
 QList<Table> documentTables(const Configuration& configuration, const QStringList& headings)
 {
     QList<Table> tables;
-    for (const auto& make : TableMakers) {
-        if (headings.isEmpty() || headings.contains(make({}).name)) {
-            tables.append(make(configuration));
+    for (const TableMaker& maker : TableMakers) {
+        if (isAskedFor(maker, headings)) {
+            tables.append(maker.make(configuration));
         }
     }
     return tables;
+}
+
+bool needAxesCombinations(const QStringList& headings)
+{
+    return std::ranges::any_of(TableMakers,
+                               [&](const TableMaker& maker) { return maker.needsAxes && isAskedFor(maker, headings); });
 }
 
 } // namespace cluiconfig

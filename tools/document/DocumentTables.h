@@ -21,4 +21,7 @@ QString scaleText(QCPAxis::ScaleType scale);
 /// are made.
 QList<Table> documentTables(const uiconfig::Configuration& configuration, const QStringList& headings = {});
 
+/// Whether the tables of \p headings ask for the axes combinations, of which a few lines can give millions.
+bool needAxesCombinations(const QStringList& headings);
+
 } // namespace cluiconfig

@@ -52,12 +52,14 @@ private:
     };
 
     QString keyAt(quint32 offset) const;
+    QString pointerTo(quint32 index) const;
     void markShadowed();
 
     QByteArray m_bytes;
     QJsonObject m_root;
     std::vector<Node> m_nodes;
     std::vector<qsizetype> m_laxPlaces;
+    mutable std::pair<quint32, QString> m_lastPointer; // node and pointer: findings mostly stand side by side
 };
 
 /// A value of a document and its place: a small object, valid as long as the document lives.
@@ -99,7 +101,7 @@ public:
             if (node.keyOffset == 0) {
                 visit(Value(m_document, child, array.at(index++)));
             } else if (!node.isShadowed) {
-                visit(Value(m_document, child, object.value(m_document->keyAt(node.keyOffset))));
+                visit(Value(m_document, child, memberOf(object, m_document->keyAt(node.keyOffset))));
             }
         }
     }
@@ -114,6 +116,7 @@ private:
     {
     }
     const Document::Node& node() const { return m_document->m_nodes[m_index]; }
+    static QJsonValue memberOf(const QJsonObject& object, const QString& key);
 
     const Document* m_document;
     quint32 m_index;

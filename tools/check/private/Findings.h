@@ -33,12 +33,13 @@ inline QString insteadOfKey(const QString& meant, const Value& object)
 ///
 /// What a message says may come with what was meant: the functions that make one return a sentence or an Advice.
 ///
-/// Of each rule the first two hundred of the document are kept, and the others only counted, so that a document full of
-/// mistakes takes no more memory than any other.
+/// Of each rule the first two hundred of the document are kept, or as many as have pointers of a bearable length, and
+/// the others only counted, so that a document full of mistakes takes no more memory than any other.
 class Findings
 {
 public:
     static constexpr qsizetype MostOfARule = 200;
+    static constexpr qsizetype LongestPointers = qsizetype{1} << 16; ///< altogether, of a rule
 
     explicit Findings(const uiconfig::Refusals& refusals, Subject subject = Subject::Document);
 
@@ -81,7 +82,7 @@ public:
     template <typename Message>
     void report(Rule rule, const Value& place, Message message)
     {
-        report(rule, place, place.pointer(), message);
+        report(rule, place, m_refused.empty() ? QString() : place.pointer(), message);
     }
 
     /// The same about a value that lacks everything which could be refused in it: it explains those refusals, too.
@@ -131,6 +132,8 @@ private:
     struct OfRule
     {
         std::vector<Kept> kept;
+        bool isFull = false;
+        qsizetype pointerSize = 0; // of all that are kept
         qsizetype count = 0;
         Severity worst = Severity::Off;
     };

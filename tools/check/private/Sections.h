@@ -26,8 +26,8 @@ namespace cluiconfig::check {
 struct Context
 {
     const Catalogue& catalogue;
-    const AxesCombinationManager& axes; ///< What the document's axes combinations yield.
-    const uiconfig::Configuration& configuration; ///< What its other sections say.
+    AxesCombinationManager& axes; ///< What the document's axes combinations pair, each pair once: their check fills it.
+    const uiconfig::Configuration& configuration; ///< What the other sections say.
     Findings& findings;
 };
 
