@@ -15,6 +15,7 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using cluiedit::DocumentFile;
@@ -81,6 +82,22 @@ TEST_F(DocumentFileIn, KeepsPermissionsAndSymbolicLinks)
     EXPECT_EQ(contentOf(path(u"a"_s)), "{\n}");
     const auto asUser = QFile::ReadUser | QFile::WriteUser;
     EXPECT_EQ(QFileInfo(path(u"a"_s)).permissions() & ~asUser, permissions);
+}
+
+TEST_F(DocumentFileIn, SavedByRootBelongsToWhomItBelonged)
+{
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "needs root, to give a file away";
+    }
+    constexpr uint Other = 65534;
+    write(path(u"a"_s), "{}");
+    ASSERT_EQ(chown(qPrintable(path(u"a"_s)), Other, Other), 0);
+
+    ASSERT_TRUE(file.save(path(u"a"_s), "{\n}", error)) << error.toStdString();
+
+    EXPECT_EQ(contentOf(path(u"a"_s)), "{\n}");
+    EXPECT_EQ(QFileInfo(path(u"a"_s)).ownerId(), Other);
+    EXPECT_EQ(QFileInfo(path(u"a"_s)).groupId(), Other);
 }
 
 TEST_F(DocumentFileIn, LeavesTheOldTextWhereItCannotWrite)

@@ -1,5 +1,7 @@
 #include "DocumentFile.h"
 
+#include <document/Replacement.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -124,9 +126,15 @@ bool DocumentFile::save(const QString& path, const QByteArray& bytes, QString& e
     }
     // Unbuffered: otherwise commit() would not notice that the rest in a buffer has no place on the disk.
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(bytes) != bytes.size()
-        || !file.commit()) {
-        error = tr("“%1” cannot be written and stays as it is: %2").arg(path, file.errorString());
+    QString reason;
+    bool isSaved = false;
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(bytes) == bytes.size()) {
+        isSaved = cluiconfig::prepareReplacement(file, reason) && cluiconfig::commitReplacement(file, reason);
+    } else {
+        reason = file.errorString();
+    }
+    if (!isSaved) {
+        error = tr("“%1” cannot be written and stays as it is: %2").arg(path, reason);
         return false;
     }
     m_path = QFileInfo(path).absoluteFilePath();
