@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <iterator>
 #include <numeric>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -42,26 +43,40 @@ QString swatch(const QString& name, ColorDepth colors)
     return Gap + u"\x1b[48;"_s + background + u'm' + Swatch + u"\x1b[0m"_s;
 }
 
-QList<QStringList> textRows(const Table& table)
+/// Calls \p visit with the texts of each row, those put together that are joined: one at a time, since of axes
+/// combinations there may be millions.
+template <typename Visit>
+void forEachTextRow(const Table& table, Visit visit)
 {
     const qsizetype joined = table.joinedColumn;
-    QList<QStringList> rows;
+    std::optional<QStringList> last;
+    QString others; // to be joined to the last row
+    const auto end = [&] {
+        if (last) {
+            if (joined >= 0) {
+                (*last)[joined] += others;
+            }
+            visit(*last);
+        }
+    };
     for (const auto& values : table.rows) {
         QStringList row;
         for (const QJsonValue& value : values) {
             row.append(check::printable(cellText(value)));
         }
-        if (joined >= 0 && !rows.isEmpty()) {
-            QStringList previous = rows.constLast();
-            previous[joined] = row.at(joined);
-            if (previous == row) {
-                rows.last()[joined] += u", "_s + row.at(joined);
+        if (joined >= 0 && last) {
+            const QString text = std::exchange(row[joined], last->at(joined));
+            if (row == *last) {
+                others += u", "_s + text;
                 continue;
             }
+            row[joined] = text;
         }
-        rows.append(row);
+        end();
+        last = row;
+        others.clear();
     }
-    return rows;
+    end();
 }
 
 /// How many cells a column may have.
@@ -72,22 +87,27 @@ struct Column
     qsizetype all = 0; ///< For its longest text and its name.
 };
 
-QList<Column> columnsOf(const QStringList& names, const QList<QStringList>& rows)
+QList<Column> columnsOf(const Table& table)
 {
     const auto longestWord = [](const QString& text) {
         const QStringList all = check::words(text);
         return std::ranges::max(all, {}, check::cellCount);
     };
     QList<Column> columns;
-    for (qsizetype i = 0; i < names.size(); ++i) {
-        Column column{.least = check::cellCount(longestWord(names.at(i)))};
-        for (const QStringList& row : rows) {
+    for (const QString& name : table.columns) {
+        columns.append(Column{.least = check::cellCount(longestWord(name))});
+    }
+    forEachTextRow(table, [&](const QStringList& row) {
+        for (qsizetype i = 0; i < columns.size(); ++i) {
+            Column& column = columns[i];
             column.least = std::max(column.least, check::cellCount(longestWord(row.at(i))));
             column.most = std::max(column.most, check::cellCount(row.at(i)));
         }
+    });
+    for (qsizetype i = 0; i < columns.size(); ++i) {
+        Column& column = columns[i];
         column.most = std::max(column.most, column.least);
-        column.all = std::max(column.most, check::cellCount(names.at(i)));
-        columns.append(column);
+        column.all = std::max(column.most, check::cellCount(table.columns.at(i)));
     }
     return columns;
 }
@@ -180,6 +200,18 @@ QString indented(const QString& list, qsizetype available)
     return margin + check::wrapped(list, available - margin.size()).join(u'\n' + margin) + u'\n';
 }
 
+/// Prints an array with one object a row, each on a line, the columns as keys. Row by row: a tree of all rows would
+/// take ten times the memory of its text.
+void printRows(const Table& table)
+{
+    QByteArray before = "[\n        ";
+    for (const auto& row : table.rows) {
+        printJson(before + QJsonDocument(toObject(table, row)).toJson(QJsonDocument::Compact));
+        before = ",\n        ";
+    }
+    printJson(table.rows.isEmpty() ? "[]" : "\n    ]");
+}
+
 } // namespace
 
 QJsonObject toObject(const Table& table, const QList<QJsonValue>& row)
@@ -197,8 +229,7 @@ void printText(const Table& table, ColorDepth colors, std::optional<qsizetype> r
     if (table.rows.isEmpty()) {
         return;
     }
-    const QList<QStringList> rows = textRows(table);
-    QList<Column> columns = columnsOf(table.columns, rows);
+    QList<Column> columns = columnsOf(table);
     const qsizetype available = room.value_or(widest(columns))
         - (table.endsInColors && colors != ColorDepth::None ? Gap.size() + Swatch.size() : 0);
     const bool hasListBelow = table.joinedColumn >= 0 && widest(columns) > available;
@@ -214,19 +245,9 @@ void printText(const Table& table, ColorDepth colors, std::optional<qsizetype> r
         print(text.toUtf8());
     };
     printRow(table.columns, {});
-    for (const QStringList& row : rows) {
+    forEachTextRow(table, [&](const QStringList& row) {
         printRow(row, table.endsInColors ? swatch(row.constLast(), colors) : QString());
-    }
-}
-
-QByteArray toJson(const Table& table)
-{
-    QByteArray lines;
-    for (const auto& row : table.rows) {
-        lines += (lines.isEmpty() ? "\n        " : ",\n        ")
-            + QJsonDocument(toObject(table, row)).toJson(QJsonDocument::Compact);
-    }
-    return '[' + lines + (lines.isEmpty() ? "]" : "\n    ]");
+    });
 }
 
 void TableFormat::addTo(CLI::App& command)
@@ -245,13 +266,14 @@ void addWideOption(CLI::App& command, bool& isWide)
 void TableFormat::print(const QList<Table>& tables) const
 {
     if (name == "json") {
-        // Row by row: a tree of all rows would take ten times the memory of its text.
-        QByteArray text;
+        QByteArray before = "{\n    ";
         for (const Table& table : tables) {
             const QByteArray key = QJsonDocument(QJsonArray{table.name}).toJson(QJsonDocument::Compact);
-            text += (text.isEmpty() ? "{\n    " : ",\n    ") + key.sliced(1, key.size() - 2) + ": " + toJson(table);
+            printJson(before + key.sliced(1, key.size() - 2) + ": ");
+            printRows(table);
+            before = ",\n    ";
         }
-        printJson(text + "\n}\n");
+        printJson("\n}\n");
         return;
     }
     for (const Table& table : tables) {

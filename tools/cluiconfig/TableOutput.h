@@ -22,9 +22,6 @@ QJsonObject toObject(const Table& table, const QList<QJsonValue>& row);
 /// are wrapped in their columns, and values that were joined stand below their row.
 void printText(const Table& table, ColorDepth colors, std::optional<qsizetype> room);
 
-/// An array with one object a row, each on a line, the columns as keys.
-QByteArray toJson(const Table& table);
-
 /// Adds the option "--wide" of a command whose lines are wrapped to fit a terminal.
 void addWideOption(CLI::App& command, bool& isWide);
 
