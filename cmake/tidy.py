@@ -41,7 +41,7 @@ def for_clang(arguments):
         if arguments[i] == "-include" and "cmake_pch" in arguments[i + 1]:
             i += 2
             continue
-        if arguments[i] not in ("-Winvalid-pch", "-fpch-preprocess", "-Wno-restrict"):
+        if arguments[i] not in ("-Winvalid-pch", "-fpch-preprocess", "-Wno-restrict", "-Wno-stringop-overflow"):
             kept.append(arguments[i])
         i += 1
     return kept

@@ -42,7 +42,8 @@ class Large(program.TestCase):
     def test_key(self):
         name = "ä" * 2_000_000
         said = self.expect(self.document(**{name: 1}))
-        self.assertIn(f"/{name}", said)
+        self.assertIn("/ä", said)
+        self.assertLess(len(said), 5000)
 
     def test_many_unknown_keys(self):
         said = self.expect(self.document(**{f"Comment {i}": i for i in range(200_000)}))

@@ -91,7 +91,7 @@ QString DocumentFile::name() const
 
 std::optional<QByteArray> DocumentFile::open(const QString& path, QString& error)
 {
-    const std::optional<QByteArray> bytes = contentOf(path, error);
+    std::optional<QByteArray> bytes = contentOf(path, error);
     if (!bytes) {
         return {};
     }

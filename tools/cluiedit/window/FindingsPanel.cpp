@@ -2,6 +2,7 @@
 
 #include <check/Rules.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
