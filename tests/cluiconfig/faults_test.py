@@ -64,13 +64,13 @@ class PreloadTest(FaultTest):
             raise unittest.SkipTest("needs a C compiler")
         directory = tempfile.TemporaryDirectory()
         cls.addClassCleanup(directory.cleanup)
-        cls.library = str(pathlib.Path(directory.name) / "faults.so")
+        cls.faults = str(pathlib.Path(directory.name) / "faults.so")
         source = pathlib.Path(__file__).with_name("faults.c")
-        subprocess.run([compiler, "-shared", "-fPIC", "-Wall", "-Werror", "-o", cls.library, str(source), "-ldl"],
+        subprocess.run([compiler, "-shared", "-fPIC", "-Wall", "-Werror", "-o", cls.faults, str(source), "-ldl"],
                        check=True, timeout=60)
 
     def fault(self, call, error=0, count=1, command=None):
-        environment = {**os.environ, "LD_PRELOAD": self.library, "FAULT_CALL": call, "FAULT_ERRNO": str(error),
+        environment = {**os.environ, "LD_PRELOAD": self.faults, "FAULT_CALL": call, "FAULT_ERRNO": str(error),
                        "FAULT_COUNT": str(count),
                        "ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", "") + ":verify_asan_link_order=0"}
         return {"env": {**environment, "FAULT_RUN": command} if command else environment}
