@@ -286,21 +286,21 @@ class Headers:
         self.symbols = Symbols()
         for root in ROOTS:
             for header in public_headers(source_dir / root):
-                self.interfaces[self.library_of(header)]["headers"].append(str(header.relative_to(source_dir / root)))
+                self.interfaces[self.owner_of(header)]["headers"].append(str(header.relative_to(source_dir / root)))
         self.read_namespace(unit.cursor)
         for interface in self.interfaces.values():
             for title, lines in interface.items():
                 if isinstance(lines, set):
                     interface[title] = [text for _, text in sorted(lines)]
 
-    def library_of(self, path):
+    def owner_of(self, path):
         return next((library for folder, library in self.folders.items() if path.is_relative_to(folder)), None)
 
     def read_namespace(self, cursor):
         title = f"namespace {qualified(cursor)}" if qualified(cursor) else "outside of namespaces"
         for child in cursor.get_children():
             header = pathlib.Path(child.location.file.name if child.location.file else "")
-            library = self.library_of(header)
+            library = self.owner_of(header)
             if not library:
                 continue
             interface = self.interfaces[library]
