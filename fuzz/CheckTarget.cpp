@@ -4,16 +4,11 @@
 #include "Fuzz.h"
 #include "Reports.h"
 
-#include <base/Singleton.h>
-#include <batterydata/RawDataCollection.h>
 #include <check/Check.h>
-#include <config/Configuration.h>
-#include <datastorage/JsonUtils.h>
 
 using cluiconfig::check::Finding;
 using cluiconfig::check::Report;
 using cluiconfig::check::Rule;
-using cluiconfig::check::Severity;
 using fuzz::require;
 
 namespace {
@@ -31,17 +26,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     const QByteArray text = fuzz::bytes(data, size);
     const QString path = fuzz::fileWith(text);
 
-    QString error;
-    QJsonObject root;
+    uiconfig::Configuration configuration;
     uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
-    const bool isObject = cl::datastorage::JsonUtils::openJsonDocument(path, error, root);
-    if (isObject) {
-        const auto& catalogue =
-            lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
-        uiconfig::Configuration configuration;
-        uiconfig::readConfiguration(root, {catalogue, configuration, refusals});
-        refusals.isEmpty(error);
-    }
+    const QString error = fuzz::load(path, configuration, refusals);
+    const bool isObject = error.isEmpty() || !refusals.isEmpty();
 
     const Report report = cluiconfig::check::check(path);
     fuzz::requireSound(report, text);

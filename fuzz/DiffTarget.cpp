@@ -3,10 +3,7 @@
 
 #include "Fuzz.h"
 
-#include <base/Singleton.h>
-#include <batterydata/RawDataCollection.h>
 #include <cluiconfig/TableDifference.h>
-#include <config/Configuration.h>
 #include <document/DocumentTables.h>
 
 #include <QJsonDocument>
@@ -23,11 +20,9 @@ constexpr char Between = '\xFF'; // is in no UTF-8
 
 QList<Table> tables(const QByteArray& text)
 {
-    const auto& catalogue =
-        lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
     uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::GoOn);
     uiconfig::Configuration configuration;
-    uiconfig::readConfiguration(QJsonDocument::fromJson(text).object(), {catalogue, configuration, refusals});
+    uiconfig::readConfiguration(QJsonDocument::fromJson(text).object(), {fuzz::catalogue(), configuration, refusals});
     return cluiconfig::documentTables(configuration);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <config/Configuration.h>
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -28,6 +30,13 @@ inline QByteArray bytes(const std::uint8_t* data, std::size_t size)
 {
     return {reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)};
 }
+
+/// The process's catalogue, which documents name.
+const uiconfig::Catalogue& catalogue();
+
+/// Reads the file \p path as the application loads it, into \p configuration, up to what it refuses, which \p refusals
+/// tell. What is said of a file that does not load; empty if it does.
+QString load(const QString& path, uiconfig::Configuration& configuration, uiconfig::Refusals& refusals);
 
 /// The path of a file that holds \p content, until the next call.
 QString fileWith(const QByteArray& content);

@@ -4,16 +4,11 @@
 #include "Fuzz.h"
 
 #include <base/Singleton.h>
-#include <batterydata/RawDataCollection.h>
 #include <config/ConfigRepresentation.h>
 #include <config/Configuration.h>
 #include <config/UIConfig.h>
-#include <datastorage/JsonUtils.h>
-
-#include <QJsonObject>
 
 using namespace Qt::StringLiterals;
-using cl::batterydata::RawDataCollection;
 using fuzz::require;
 using lumo::tools::Singleton;
 
@@ -121,13 +116,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 
     uiconfig::Configuration read;
     uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
-    QString valueError;
-    if (QJsonObject root; cl::datastorage::JsonUtils::openJsonDocument(path, valueError, root)) {
-        const auto& catalogue = Singleton<RawDataCollection>::instance().getDataConfiguration();
-        uiconfig::readConfiguration(root, {catalogue, read, refusals});
-        refusals.isEmpty(valueError);
-    }
-    require(valueError == error, "the object and the value refuse a document with the same words");
+    require(fuzz::load(path, read, refusals) == error,
+            "the object and the value refuse a document with the same words");
 
     QList<qsizetype> gained = sizes(config);
     for (qsizetype i = 0; i < gained.size(); ++i) {

@@ -2,10 +2,8 @@
 
 #include "Fuzz.h"
 
-#include <base/Singleton.h>
 #include <batterydata/ClConfigDataArray.h>
 #include <batterydata/ClConfigDataArrayManager.h>
-#include <batterydata/RawDataCollection.h>
 #include <cluiedit/data/BdfFile.h>
 
 #include <optional>
@@ -16,16 +14,14 @@ using fuzz::require;
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const auto& catalogue =
-        lumo::tools::Singleton<cl::batterydata::RawDataCollection>::instance().getDataConfiguration();
-    const cluiedit::BdfFile file = cluiedit::readBdf(fuzz::fileWith(fuzz::bytes(data, size)), catalogue);
+    const cluiedit::BdfFile file = cluiedit::readBdf(fuzz::fileWith(fuzz::bytes(data, size)), fuzz::catalogue());
     require(!file.wasCancelled, "nobody cancels");
     require(file.measurement.has_value() == file.error.isEmpty(), "a file is read, or there is a reason why not");
     if (!file.measurement) {
         return 0;
     }
     std::optional<std::size_t> rows;
-    for (const ClConfigDataArray* array : catalogue.getAll()) {
+    for (const ClConfigDataArray* array : fuzz::catalogue().getAll()) {
         if (const std::vector<double>* values = file.measurement->values(*array)) {
             require(array->getCategory() == ClConfigDataArray::PotentiostatMeasure(), "files hold measures");
             require(rows.value_or(values->size()) == values->size(), "all columns are as long as each other");

@@ -7,6 +7,15 @@ as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
+fail() {
+    echo "scripts/$(basename "$0"): $*" >&2
+    exit 1
+}
+
+project_version() {
+    sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt
+}
+
 # need PACKAGE...: installs those of the distribution's packages that are missing. What is new is found when the next
 # preset is built.
 configure_again=
