@@ -1,10 +1,11 @@
 #include "GeneratedTexts.h"
 
+#include <search/private/DecisiveLetters.h>
 #include <search/private/PositionSet.h>
 #include <search/private/Ranking.h>
-#include <search/private/RareLetter.h>
 #include <search/private/SubsequenceFilter.h>
 #include <search/private/TextBlock.h>
+#include <search/private/TextPieces.h>
 
 #include <gtest/gtest.h>
 
@@ -174,6 +175,53 @@ TYPED_TEST(ChunkTest, BlocksAnswerLikeSingleBytes)
     expectBlocksToAnswerLikeBytes<8, TypeParam>(random, 81);
 }
 
+std::string folded(std::string text)
+{
+    for (char& c : text) {
+        c = static_cast<char>(static_cast<unsigned char>(c) | search::CaseBit);
+    }
+    return text;
+}
+
+template <std::size_t Unit, std::size_t Count, class AChunk>
+void expectPiecesToHaveTheOrderOfTheBytes(GeneratedTexts& random)
+{
+    using Pieces = search::TextPieces<Unit, Count, AChunk>;
+    for (std::size_t size = Pieces::Shortest; size <= Pieces::Longest; ++size) {
+        random.query(1); // chooses the letters
+        const std::string text = random.text(size);
+        // In a buffer of its very size, so that reading outside of it is found.
+        const std::vector<char> exact(text.begin(), text.end());
+        const Pieces pieces(std::string_view(exact.data(), exact.size()));
+
+        std::map<int, char> found;
+        for (int letter = 0; letter < 256; ++letter) {
+            const auto byte = static_cast<char>(letter);
+            if (folded({byte}) == std::string{byte}) {
+                for (const int position : positionsIn(pieces.where(AChunk::filledWith(byte)))) {
+                    ASSERT_TRUE(found.emplace(position, byte).second);
+                }
+            }
+        }
+        std::string inOrder;
+        for (const auto& [position, byte] : found) {
+            inOrder += byte;
+        }
+        ASSERT_EQ(inOrder, folded(text));
+    }
+}
+
+TYPED_TEST(ChunkTest, PiecesHaveTheOrderOfSingleBytes)
+{
+    GeneratedTexts random(8);
+    for (int round = 0; round < 20; ++round) {
+        expectPiecesToHaveTheOrderOfTheBytes<4, 2, TypeParam>(random);
+        expectPiecesToHaveTheOrderOfTheBytes<8, 4, TypeParam>(random);
+        expectPiecesToHaveTheOrderOfTheBytes<16, 5, TypeParam>(random);
+        expectPiecesToHaveTheOrderOfTheBytes<32, 4, TypeParam>(random);
+    }
+}
+
 bool containsInOrder(std::string_view query, std::string_view text)
 {
     std::size_t found = 0;
@@ -183,19 +231,35 @@ bool containsInOrder(std::string_view query, std::string_view text)
     return found == query.size();
 }
 
-TEST(SubsequenceFilter, IsExactForQueriesUpTo31Letters)
+/// Up to as many letters of \p query as can be decisive, in their order.
+std::string someLetters(GeneratedTexts& random, std::string query)
+{
+    const std::size_t count = random.below(search::SubsequenceFilter::MostDecisiveLetters + 1);
+    while (query.size() > count) {
+        query.erase(random.below(query.size()), 1);
+    }
+    return query;
+}
+
+TEST(SubsequenceFilter, IsExactButForWhatIsFoldedWhateverLettersAreDecisive)
 {
     GeneratedTexts random(3);
     std::size_t contained = 0;
-    for (int i = 0; i < 20'000; ++i) {
-        const std::string query = random.query(31);
+    for (int i = 0; i < 40'000; ++i) {
+        const std::string query = random.query(search::SubsequenceFilter::MostLetters);
         const std::string text = random.candidate(query);
-        const bool expected = containsInOrder(query, text);
+        const search::SubsequenceFilter filter(query, someLetters(random, query));
+        const bool expected = containsInOrder(folded(query), folded(text));
         contained += expected ? 1 : 0;
-        ASSERT_EQ(search::SubsequenceFilter(query).mayContain(text), expected) << query << " in " << text;
+        // Of the last few bytes behind the pieces of a long text, and of as short a text, it says nothing.
+        if (text.size() % search::LongestInPieces >= search::ShortestInPieces) {
+            ASSERT_EQ(filter.mayContain(text), expected) << query << " in " << text;
+        } else if (expected) {
+            ASSERT_TRUE(filter.mayContain(text)) << query << " in " << text;
+        }
     }
-    EXPECT_GT(contained, 2'000U);
-    EXPECT_LT(contained, 18'000U);
+    EXPECT_GT(contained, 4'000U);
+    EXPECT_LT(contained, 36'000U);
 }
 
 TEST(SubsequenceFilter, NeverRejectsATextThatContainsALongQuery)
@@ -205,54 +269,60 @@ TEST(SubsequenceFilter, NeverRejectsATextThatContainsALongQuery)
     for (int i = 0; i < 5'000; ++i) {
         const std::string query = random.query(200);
         const std::string text = random.candidate(query);
-        if (query.size() > 31 && containsInOrder(query, text)) {
+        if (query.size() > search::SubsequenceFilter::MostLetters && containsInOrder(query, text)) {
             ++contained;
-            ASSERT_TRUE(search::SubsequenceFilter(query).mayContain(text)) << query << " in " << text;
+            ASSERT_TRUE(search::SubsequenceFilter(query, someLetters(random, query)).mayContain(text))
+                << query << " in " << text;
         }
     }
     EXPECT_GT(contained, 2'000U);
 }
 
-TEST(RareLetter, IsOneThatFewCandidatesHave)
+TEST(DecisiveLetters, AreAFewOfTheQueryInTheirOrder)
 {
-    std::vector<std::string> candidates(2000, "Linear Sweep");
-    for (std::size_t i = 0; i < candidates.size(); i += 100) {
-        candidates[i] = "QUARTZ";
-    }
-    const search::RareLetter rare("sqr", candidates);
-    EXPECT_TRUE(rare.isMissingIn("Linear Sweep"));
-    EXPECT_FALSE(rare.isMissingIn("QUARTZ"));
-    EXPECT_FALSE(rare.isMissingIn("quartz"));
-    EXPECT_TRUE(rare.isMissingIn(""));
-}
-
-TEST(RareLetter, IsFoundWhereverItStands)
-{
-    const search::RareLetter rare("q", std::vector<std::string>(2000, "Linear Sweep"));
-    for (std::size_t size = 0; size <= 70; ++size) {
-        // In a buffer of its very size, so that reading outside of it is found.
-        std::vector<char> text(size, 'o');
-        const auto isMissing = [&] { return rare.isMissingIn({text.data(), text.size()}); };
-        EXPECT_TRUE(isMissing()) << size;
-        for (char& c : text) {
-            for (const char letter : {'q', 'Q'}) {
-                c = letter;
-                EXPECT_FALSE(isMissing()) << size;
-            }
-            c = 'o';
+    GeneratedTexts random(9);
+    for (int i = 0; i < 1'000; ++i) {
+        const std::string query = random.query(50);
+        std::vector<std::string> texts;
+        for (std::size_t count = random.below(65); count > 0; --count) {
+            texts.push_back(random.candidate(query));
         }
+        const std::vector<std::string_view> sample(texts.begin(), texts.end());
+        const std::string letters = search::decisiveLetters(query, sample);
+        ASSERT_LE(letters.size(), search::SubsequenceFilter::MostDecisiveLetters);
+        ASSERT_TRUE(containsInOrder(letters, query)) << letters << " of " << query;
     }
 }
 
-TEST(RareLetter, IsNotSoughtAmongCommonOnesNorInShortLists)
+TEST(DecisiveLetters, AreThoseThatFewTextsHave)
 {
-    const std::vector<std::string> manyNames(2000, "Linear Sweep");
-    EXPECT_FALSE(search::RareLetter("sweep", manyNames).isMissingIn("x"));
-    EXPECT_FALSE(search::RareLetter("", manyNames).isMissingIn("x"));
-    const std::vector<std::string> fewNames(1023, "Linear Sweep");
-    EXPECT_FALSE(search::RareLetter("q", fewNames).isMissingIn("x"));
-    const std::vector<std::string> enoughNames(1024, "Linear Sweep");
-    EXPECT_TRUE(search::RareLetter("q", enoughNames).isMissingIn("x"));
+    const std::vector<std::string_view> sample(40, "Linear Sweep");
+    EXPECT_EQ(search::decisiveLetters("sqr", sample), "q");
+    EXPECT_EQ(search::decisiveLetters("SQR", sample), "Q");
+}
+
+TEST(DecisiveLetters, AreThoseThatStandInAnotherOrderIfAllTextsHaveAll)
+{
+    const std::vector<std::string_view> sample(40, "step 12 of characterisation protocol");
+    const std::string letters = search::decisiveLetters("torp noita", sample);
+    EXPECT_FALSE(search::SubsequenceFilter("torp noita", letters).mayContain(sample[0]));
+    EXPECT_FALSE(containsInOrder(letters, sample[0])) << letters;
+}
+
+TEST(DecisiveLetters, AreNoneWhereNearlyAllTextsHaveTheQuery)
+{
+    const std::vector<std::string_view> sample(40, "Linear Sweep");
+    EXPECT_EQ(search::decisiveLetters("lsw", sample), "");
+}
+
+TEST(DecisiveLetters, AreTheFirstOnesWhereThereIsNothingToLookAt)
+{
+    const std::vector<std::string_view> tooShort(40, "CV");
+    const std::string tooLong(200, 'x');
+    EXPECT_EQ(search::decisiveLetters("voltammetry", {}), "voltam");
+    EXPECT_EQ(search::decisiveLetters("voltammetry", tooShort), "voltam");
+    EXPECT_EQ(search::decisiveLetters("voltammetry", std::vector<std::string_view>(40, tooLong)), "voltam");
+    EXPECT_EQ(search::decisiveLetters("", tooShort), "");
 }
 
 void expectSorted(std::vector<int> scores)

@@ -3,6 +3,7 @@
 #include "Ascii.h"
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -20,6 +21,33 @@ namespace search {
 
 inline constexpr std::size_t ChunkSize = 16;
 
+/// What letters differ in by their case. With it set in every byte both cases are alike, as are a few other bytes that
+/// are hardly ever in a text together.
+inline constexpr unsigned char CaseBit = 'a' - 'A';
+
+/// Eight bytes as they lie in memory.
+using EightBytes = std::uint64_t;
+
+template <class Number>
+Number bytesAt(const char* bytes)
+{
+    Number number;
+    std::memcpy(&number, bytes, sizeof number);
+    return number;
+}
+
+/// The eight bytes at \p bytes.
+inline EightBytes eightBytes(const char* bytes)
+{
+    return bytesAt<EightBytes>(bytes);
+}
+
+/// The four bytes at \p first and those at \p second.
+inline EightBytes eightBytes(const char* first, const char* second)
+{
+    return std::bit_cast<EightBytes>(std::array{bytesAt<std::uint32_t>(first), bytesAt<std::uint32_t>(second)});
+}
+
 // NOLINTBEGIN(cppcoreguidelines-pro-type-member-init): filling what is overwritten at once would take as long as the
 // work
 
@@ -30,6 +58,17 @@ public:
     /// REQUIRES: 16 bytes can be read at \p bytes.
     explicit PortableChunk(const char* bytes) { std::memcpy(m_bytes.data(), bytes, ChunkSize); }
 
+    PortableChunk(EightBytes first, EightBytes second)
+        : PortableChunk(std::bit_cast<std::array<char, ChunkSize>>(std::array{first, second}).data())
+    {
+    }
+    static PortableChunk filledWith(char byte)
+    {
+        PortableChunk chunk;
+        chunk.m_bytes.fill(static_cast<unsigned char>(byte));
+        return chunk;
+    }
+
     PortableChunk inLowerCase() const
     {
         PortableChunk lower;
@@ -38,11 +77,27 @@ public:
         }
         return lower;
     }
+    PortableChunk folded() const
+    {
+        PortableChunk folded;
+        for (std::size_t i = 0; i < ChunkSize; ++i) {
+            folded.m_bytes[i] = m_bytes[i] | CaseBit;
+        }
+        return folded;
+    }
     unsigned equalTo(unsigned char byte) const
     {
         unsigned bits = 0;
         for (std::size_t i = 0; i < ChunkSize; ++i) {
             bits |= (m_bytes[i] == byte ? 1U : 0U) << i;
+        }
+        return bits;
+    }
+    unsigned equalTo(const PortableChunk& other) const
+    {
+        unsigned bits = 0;
+        for (std::size_t i = 0; i < ChunkSize; ++i) {
+            bits |= (m_bytes[i] == other.m_bytes[i] ? 1U : 0U) << i;
         }
         return bits;
     }
@@ -83,13 +138,31 @@ public:
     {
     }
 
+    Sse2Chunk(EightBytes first, EightBytes second)
+        : m_bytes(_mm_set_epi64x(static_cast<std::int64_t>(second), static_cast<std::int64_t>(first)))
+    {
+    }
+    static Sse2Chunk filledWith(char byte)
+    {
+        Sse2Chunk chunk;
+        chunk.m_bytes = _mm_set1_epi8(byte);
+        return chunk;
+    }
+
     Sse2Chunk inLowerCase() const
     {
         Sse2Chunk lower;
         lower.m_bytes = _mm_or_si128(m_bytes, _mm_and_si128(from<'A'>(), _mm_set1_epi8('a' - 'A')));
         return lower;
     }
+    Sse2Chunk folded() const
+    {
+        Sse2Chunk folded;
+        folded.m_bytes = _mm_or_si128(m_bytes, _mm_set1_epi8(CaseBit));
+        return folded;
+    }
     unsigned equalTo(unsigned char byte) const { return bits(equal(static_cast<char>(byte))); }
+    unsigned equalTo(const Sse2Chunk& other) const { return bits(_mm_cmpeq_epi8(m_bytes, other.m_bytes)); }
     unsigned wordStarts(const Sse2Chunk& previous) const
     {
         const __m128i afterGap = _mm_or_si128(previous.equal('_'), previous.equal(' '));

@@ -24,14 +24,14 @@ public:
     PositionSet() = default;
 
     /// The positions below 64, of which \p bits has a bit each.
-    explicit PositionSet(std::uint64_t bits)
+    explicit constexpr PositionSet(std::uint64_t bits)
     {
         m_words[0] = bits;
         if constexpr (Words == 2) {
             m_words[1] = 0;
         }
     }
-    PositionSet(std::uint64_t bits, std::uint64_t bitsFrom64) requires(Words == 2)
+    constexpr PositionSet(std::uint64_t bits, std::uint64_t bitsFrom64) requires(Words == 2)
         : m_words{bits, bitsFrom64}
     {
     }

@@ -1,30 +1,44 @@
 #pragma once
 
-#include "RareLetter.h"
+#include "DecisiveLetters.h"
 #include "SubsequenceFilter.h"
 
 #include <search/FuzzyMatch.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 namespace search {
 
+/// A few of \p candidates, spread over the list: so many that looking at them takes no part of the time of a search.
+template <class Texts>
+std::vector<std::string_view> sampleOf(const Texts& candidates)
+{
+    constexpr std::size_t MostTexts = 64;
+    constexpr std::size_t OneIn = 32;
+    std::vector<std::string_view> sample(std::min(MostTexts, candidates.size() / OneIn));
+    for (std::size_t i = 0; i < sample.size(); ++i) {
+        sample[i] = candidates[i * (candidates.size() / sample.size())];
+    }
+    return sample;
+}
+
 /// The matches among \p candidates, a range of texts, by ascending index. \p scorer.score(text) gives the score of a
 /// text or nothing; it is asked about few texts that lack \p query.
 template <class Scorer, class Texts>
 std::vector<FuzzyMatch> findMatches(std::string_view query, const Texts& candidates, const Scorer& scorer)
 {
-    const RareLetter rare(query, candidates);
-    const SubsequenceFilter filter(query);
+    const SubsequenceFilter filter(query, decisiveLetters(query, sampleOf(candidates)));
     std::vector<FuzzyMatch> matches;
     matches.reserve(candidates.size()); // memory that is not written to costs next to nothing
     std::size_t index = 0;
     for (std::string_view text : candidates) {
         // Where most candidates match the filter would be a second reading for nothing: the scorer rejects as well.
         const bool filtering = 2 * matches.size() <= index;
-        if (!rare.isMissingIn(text) && (!filtering || filter.mayContain(text))) {
+        if (!filtering || filter.mayContain(text)) {
             if (const std::optional<int> score = scorer.score(text)) {
                 matches.push_back({index, *score});
             }

@@ -1,32 +1,35 @@
 #include "SubsequenceFilter.h"
 
-#include "Ascii.h"
-
 #include <algorithm>
 
 namespace search {
 
 namespace {
 
-constexpr std::size_t Longest = 31; // one bit more stands for "all found"
+Chunk letters(char letter)
+{
+    return Chunk::filledWith(letter).folded();
+}
 
 } // namespace
 
-SubsequenceFilter::SubsequenceFilter(std::string_view query)
-    : m_length(static_cast<int>(std::min(query.size(), Longest)))
+SubsequenceFilter::SubsequenceFilter(std::string_view query, std::string_view decisive)
+    : m_decisiveCount(decisive.size())
+    , m_count(std::min(query.size(), MostLetters))
 {
-    static_assert(Longest < BackShift, "the front needs a bit for all found");
-    std::array<std::uint32_t, 256> front{};
-    std::array<std::uint32_t, 256> back{};
-    for (int i = 0; i < m_length; ++i) {
-        const unsigned char letter = toLower(query[static_cast<std::size_t>(i)]);
-        front[letter] |= std::uint32_t{1} << i;
-        back[letter] |= std::uint32_t{1} << (m_length - 1 - i);
+    std::transform(decisive.begin(), decisive.end(), m_decisive.begin(), letters);
+    std::transform(query.begin(), query.begin() + static_cast<std::ptrdiff_t>(m_count), m_letters.begin(), letters);
+}
+
+bool SubsequenceFilter::mayBeInLongText(std::string_view text) const
+{
+    std::size_t found = 0;
+    while (found < m_count && text.size() >= ShortestInPieces) {
+        const std::string_view part = text.substr(0, LongestInPieces);
+        found = inPieces(part, [this, found](const auto& pieces) { return follow(pieces, found); });
+        text.remove_prefix(part.size());
     }
-    for (std::size_t byte = 0; byte < LowerCase.size(); ++byte) {
-        m_frontRows[byte] = front[LowerCase[byte]];
-        m_backRows[byte] = std::uint64_t{back[LowerCase[byte]]} << BackShift;
-    }
+    return found + text.size() >= m_count; // a rest that is too short for pieces may have as many letters
 }
 
 } // namespace search

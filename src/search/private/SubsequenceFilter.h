@@ -1,56 +1,74 @@
 #pragma once
 
+#include "Chunk.h"
+#include "TextPieces.h"
+
 #include <array>
-#include <bit>
-#include <cstdint>
+#include <cstddef>
 #include <string_view>
 
 namespace search {
 
-/// Tells in one pass, without a branch on what it reads, whether a text can contain the letters of a query in their
-/// order. This is what most candidates of a search see and nothing more, so it costs as little as reading them: the
-/// time depends on the length of the text alone.
-///
-/// The pass runs from both ends at once. From the front it finds the longest beginning of the query that the first half
-/// of the text contains, from the back the longest ending that the second half contains; the text contains the query if
-/// and only if the two cover it. How far each side has come is one bit, counted up by h += h & rows[byte], where the
-/// row of a byte has a bit for every place of the query at which it stands: the bit moves on if the byte is the next
-/// one. The front has the lower 32 bits of the word, the back the upper ones.
-///
-/// Of a query of more than 31 letters only the first 31 are looked for; a text without them lacks the query.
+/// Tells whether a text can contain the letters of a query in their order. This is what most candidates of a search see
+/// and nothing more, so at first it does without branches on what it reads: one that goes another way in the next text
+/// costs more than all the letters.
 class SubsequenceFilter
 {
 public:
-    explicit SubsequenceFilter(std::string_view query);
+    static constexpr std::size_t MostDecisiveLetters = 6;
+    static constexpr std::size_t MostLetters = 32; ///< Of a longer query, those behind them are not looked for.
 
-    /// False only if \p text does not contain the query. For a query of at most 31 letters, true only if it does.
+    /// \p decisive are some letters of \p query in their order: those to look for first, because they reject most.
+    /// REQUIRES: they are at most MostDecisiveLetters.
+    SubsequenceFilter(std::string_view query, std::string_view decisive);
+
+    /// False only if \p text does not contain the query.
     bool mayContain(std::string_view text) const
     {
-        const auto* begin = reinterpret_cast<const unsigned char*>(text.data());
-        const unsigned char* end = begin + text.size();
-        std::uint64_t found = 1 | std::uint64_t{1} << BackShift;
-        while (end - begin >= 8) {
-            found += found & (m_frontRows[begin[0]] | m_backRows[end[-1]]);
-            found += found & (m_frontRows[begin[1]] | m_backRows[end[-2]]);
-            found += found & (m_frontRows[begin[2]] | m_backRows[end[-3]]);
-            found += found & (m_frontRows[begin[3]] | m_backRows[end[-4]]);
-            begin += 4;
-            end -= 4;
+        if (text.size() < ShortestInPieces) {
+            return true; // the rule itself takes no longer
         }
-        while (begin != end) {
-            found += found & m_frontRows[*begin++];
+        if (text.size() > LongestInPieces) {
+            return mayBeInLongText(text);
         }
-        const int atFront = std::countr_zero(static_cast<std::uint32_t>(found));
-        const int atBack = std::countr_zero(static_cast<std::uint32_t>(found >> BackShift));
-        return atFront + atBack >= m_length;
+        return inPieces(
+            text, [this](const auto& pieces) { return hasDecisiveLetters(pieces) && follow(pieces, 0) == m_count; });
     }
 
 private:
-    static constexpr int BackShift = 32;
+    template <class Pieces>
+    bool hasDecisiveLetters(const Pieces& pieces) const
+    {
+        auto rest = Pieces::Set::all();
+        auto places = rest;
+        for (std::size_t i = 0; i < m_decisiveCount; ++i) {
+            places = pieces.where(m_decisive[i]) & rest;
+            rest = places.allAboveLowest(); // nothing, and so nothing from there on, where there is no place
+        }
+        return !places.empty();
+    }
 
-    int m_length;
-    std::array<std::uint64_t, 256> m_frontRows{};
-    std::array<std::uint64_t, 256> m_backRows{};
+    /// How many letters have been found when \p pieces have been looked through for those from \p found on.
+    template <class Pieces>
+    std::size_t follow(const Pieces& pieces, std::size_t found) const
+    {
+        for (auto rest = Pieces::Set::all(); found < m_count; ++found) {
+            const auto places = pieces.where(m_letters[found]) & rest;
+            if (places.empty()) {
+                break;
+            }
+            rest = places.allAboveLowest();
+        }
+        return found;
+    }
+
+    bool mayBeInLongText(std::string_view text) const;
+
+    // Sixteen of each.
+    std::size_t m_decisiveCount;
+    std::array<Chunk, MostDecisiveLetters> m_decisive;
+    std::size_t m_count;
+    std::array<Chunk, MostLetters> m_letters;
 };
 
 } // namespace search

@@ -20,6 +20,9 @@ inline constexpr int PieceBonuses = 100 + 75 + 50; // for the pieces between com
 inline constexpr std::size_t ShortText = 200;
 inline constexpr int ShortTextPenalty = 15;
 
+/// What a position that reads as zero brings: a run of one, the first position, and the gap behind it.
+inline constexpr int ZeroPoints = RunWeight + FirstPositionBonus - GapPenalty;
+
 /// What every path through \p text scores, wherever it leads.
 inline int commonPoints(std::string_view text)
 {

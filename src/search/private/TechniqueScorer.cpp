@@ -19,9 +19,6 @@ namespace {
 constexpr std::size_t LongestQuery = 10'000;
 constexpr std::size_t LongestText = std::numeric_limits<std::int32_t>::max();
 
-/// What a position that reads as zero brings: a run of one, the first position, and the gap behind it.
-constexpr int ZeroPoints = RunWeight + FirstPositionBonus - GapPenalty;
-
 /// The most that a query of \p length letters can score without the prefix bonus: in one run, all letters word starts.
 constexpr std::int64_t mostPoints(std::int64_t length)
 {
@@ -50,48 +47,28 @@ TechniqueScorer::TechniqueScorer(std::string_view query)
     }
 }
 
+bool TechniqueScorer::canFollow(std::string_view text) const
+{
+    return m_letters.size() <= LongestQuery && text.size() <= LongestText;
+}
+
 std::optional<int> TechniqueScorer::score(std::string_view text) const
 {
+    if (m_letters.size() < 2 || !canFollow(text)) {
+        return TechniqueSearchStrategy::fuzzyMatchIterativeTechnique(m_query, text);
+    }
+    const std::optional<Path> path = follow({}, 0, text);
+    return path ? std::optional<int>(scoreOf(*path, text)) : std::nullopt;
+}
+
+int TechniqueScorer::scoreOf(const Path& path, std::string_view text) const
+{
     const std::size_t count = m_letters.size();
-    if (count < 2 || count > LongestQuery || text.size() > LongestText) {
-        return TechniqueSearchStrategy::fuzzyMatchIterativeTechnique(m_query, text);
-    }
-
-    // One turn for each run of the greedy path. Zeroing the path up to a run gives up the points of the runs before it
-    // and brings a fixed sum for each of their letters; gain is the best such exchange.
-    int points = 0;
-    int gain = 0;
-    std::size_t at = 0;
-    std::size_t found = 0;
-    while (found < count) {
-        while (at < text.size() && toLower(text[at]) != static_cast<unsigned char>(m_letters[found])) {
-            ++at;
-        }
-        if (at == text.size()) {
-            return std::nullopt;
-        }
-        const std::size_t start = at;
-        const std::size_t first = found;
-        do {
-            ++at;
-            ++found;
-        } while (found < count && at < text.size()
-                 && toLower(text[at]) == static_cast<unsigned char>(m_letters[found]));
-
-        if (first > 0) {
-            points -= GapPenalty;
-            gain = std::max(gain, ZeroPoints * static_cast<int>(first) - points);
-        }
-        const int length = static_cast<int>(found - first);
-        points += RunWeight * length * length + wordStartPoints(text, start);
-        points += WordStartBonus * (m_gapsBefore[found - 1] - m_gapsBefore[first]);
-    }
-
-    if (!prefixRange(m_query, text).empty()) {
-        return TechniqueSearchStrategy::fuzzyMatchIterativeTechnique(m_query, text);
+    if (count < 2 || !prefixRange(m_query, text).empty()) {
+        return *TechniqueSearchStrategy::fuzzyMatchIterativeTechnique(m_query, text);
     }
     const int allZero = ZeroPoints * static_cast<int>(count) + GapPenalty;
-    return commonPoints(text) + std::max(points + gain, allZero);
+    return commonPoints(text) + std::max(pointsWithRun(path, count) + path.gain, allZero);
 }
 
 } // namespace search

@@ -1,0 +1,151 @@
+#include "DecisiveLetters.h"
+
+#include "Chunk.h"
+#include "SubsequenceFilter.h"
+#include "TextPieces.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace search {
+
+namespace {
+
+constexpr std::size_t MostQueryLetters = 32; // those behind them are not considered
+
+/// Letters of the query, one bit for each.
+using Letters = std::uint32_t;
+static_assert(MostQueryLetters <= 32);
+
+/// A letter that rejects no more than one in so many texts costs more than it saves.
+constexpr std::size_t WorthIt = 16;
+
+/// What it costs that a text is not rejected, and what the part of it that is left may cost besides. The latter leads
+/// to letters that are of use together only, as in a query whose letters every text has, but in another order.
+constexpr std::size_t TextCost = 64;
+
+/// Where the letters of the query are in one text.
+struct Places
+{
+    std::array<PositionSet<2>, MostQueryLetters> of;
+    std::size_t length = 0; // how many positions there may be
+
+    /// What \p letters cost in this text; nothing if they are not in it in their order.
+    std::size_t cost(Letters letters) const
+    {
+        PositionSet<2> last = PositionSet<2>::none();
+        PositionSet<2> rest = PositionSet<2>::all();
+        for (; letters != 0; letters &= letters - 1) {
+            last = (of[static_cast<std::size_t>(std::countr_zero(letters))] & rest);
+            rest = last.allAboveLowest();
+        }
+        if (last.empty()) {
+            return 0;
+        }
+        const auto end = static_cast<std::size_t>(last.word(0) != 0 ? std::countr_zero(last.word(0))
+                                                                    : 64 + std::countr_zero(last.word(1)));
+        return TextCost + TextCost * (length - end) / length;
+    }
+};
+
+PositionSet<2> widened(const PositionSet<1>& set)
+{
+    return PositionSet<2>(set.word(0));
+}
+PositionSet<2> widened(const PositionSet<2>& set)
+{
+    return set;
+}
+
+Places placesIn(std::string_view text, std::string_view query)
+{
+    return inPieces(text, [query]<class Pieces>(const Pieces& pieces) {
+        Places places;
+        places.length = Pieces::Longest;
+        for (std::size_t i = 0; i < query.size(); ++i) {
+            places.of[i] = widened(pieces.where(Chunk::filledWith(query[i]).folded()));
+        }
+        return places;
+    });
+}
+
+std::size_t cost(const std::vector<Places>& texts, Letters letters)
+{
+    std::size_t sum = 0;
+    for (const Places& places : texts) {
+        sum += places.cost(letters);
+    }
+    return sum;
+}
+
+std::size_t survivors(const std::vector<Places>& texts, Letters letters)
+{
+    return static_cast<std::size_t>(std::count_if(
+        texts.begin(), texts.end(), [letters](const Places& places) { return places.cost(letters) != 0; }));
+}
+
+} // namespace
+
+std::string decisiveLetters(std::string_view query, std::span<const std::string_view> sample)
+{
+    query = query.substr(0, MostQueryLetters);
+    std::vector<Places> texts;
+    for (const std::string_view text : sample) {
+        if (text.size() >= ShortestInPieces && text.size() <= LongestInPieces) {
+            texts.push_back(placesIn(text, query));
+        }
+    }
+    if (texts.empty()) {
+        return std::string(query.substr(0, SubsequenceFilter::MostDecisiveLetters));
+    }
+
+    const Letters all = static_cast<Letters>((std::uint64_t{1} << query.size()) - 1);
+    if (query.empty() || 2 * survivors(texts, all) > texts.size()) {
+        return {}; // no letter is worth looking for where most texts match
+    }
+
+    // One letter after the other is added, the one that brings most.
+    Letters chosen = 0;
+    std::vector<Places> left = texts;
+    for (std::size_t count = 0; count < std::min(query.size(), SubsequenceFilter::MostDecisiveLetters) && !left.empty();
+         ++count) {
+        Letters best = 0;
+        std::size_t leastCost = 0;
+        for (std::size_t i = 0; i < query.size(); ++i) {
+            const Letters candidate = chosen | Letters{1} << i;
+            if (candidate == chosen) {
+                continue;
+            }
+            const std::size_t candidateCost = cost(left, candidate);
+            if (best == 0 || candidateCost < leastCost) {
+                best = candidate;
+                leastCost = candidateCost;
+            }
+        }
+        chosen = best;
+        std::erase_if(left, [chosen](const Places& places) { return places.cost(chosen) == 0; });
+    }
+
+    // Those that turn out to bring little beside the others are dropped.
+    std::size_t surviving = left.size();
+    for (Letters rest = chosen; rest != 0; rest &= rest - 1) {
+        const Letters without = chosen & ~(rest & (0 - rest));
+        const std::size_t survivingWithout = without == 0 ? texts.size() : survivors(texts, without);
+        if (WorthIt * (survivingWithout - surviving) <= texts.size()) {
+            chosen = without;
+            surviving = survivingWithout;
+        }
+    }
+
+    std::string letters;
+    for (; chosen != 0; chosen &= chosen - 1) {
+        letters += query[static_cast<std::size_t>(std::countr_zero(chosen))];
+    }
+    return letters;
+}
+
+} // namespace search
