@@ -1,6 +1,5 @@
 #include <search/FtsStrategy.h>
 
-#include "private/FtsRules.h"
 #include "private/FtsScorer.h"
 #include "private/Ranking.h"
 
@@ -9,8 +8,8 @@ namespace {
 template <class Texts>
 std::vector<FuzzyMatch> findTexts(std::string_view query, const Texts& candidates)
 {
-    query = query.substr(0, query.find('\0'));
-    if (query.empty() || query.size() > search::fts::LongestQuery) {
+    query = search::ftsQuery(query);
+    if (query.empty()) {
         return {};
     }
     return search::findMatches(query, candidates, search::FtsScorer(query));

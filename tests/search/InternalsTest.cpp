@@ -353,7 +353,7 @@ TEST(Ranking, IsByScoreAndThenByIndexBothDescending)
 {
     GeneratedTexts random(5);
     for (const std::size_t count : {0U, 1U, 2U, 511U, 512U, 513U, 5000U}) {
-        for (const std::size_t span : {1U, 2U, 2047U, 2048U, 2049U, 1U << 22, (1U << 22) + 1, 0xFFFFFFFFU}) {
+        for (const std::size_t span : {1U, 2U, 4095U, 4096U, 4097U, 1U << 24, (1U << 24) + 1, 0xFFFFFFFFU}) {
             std::vector<int> scores(count);
             std::generate(scores.begin(), scores.end(), [&] {
                 return static_cast<int>(static_cast<std::uint32_t>(random.below(span)) + 0x80000000U);

@@ -3,6 +3,7 @@
 
 #include <search/FtsStrategy.h>
 #include <search/FuzzyFinder.h>
+#include <search/NarrowingSearch.h>
 #include <search/TechniqueSearchStrategy.h>
 
 #include <gtest/gtest.h>
@@ -17,6 +18,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 // The library against the literal version of both procedures, on generated texts. One case is one query with one
 // candidate, scored by both strategies unless the test says otherwise; every list of candidates is also ranked and cut.
@@ -228,6 +230,54 @@ TEST(SearchOracle, LongListsWithFewMatchesHaveTheLiteralScoresOrderAndCut)
         comparison.addCases(candidates.size());
     }
     EXPECT_LT(comparison.matches(), comparison.cases() / 4);
+}
+
+/// What somebody might type next: mostly a letter more or a letter less.
+std::string typedOn(GeneratedTexts& texts, std::string query, const std::string& whole)
+{
+    switch (texts.below(8)) {
+    case 0:
+        return query.substr(0, texts.below(query.size() + 1));
+    case 1:
+        return query + texts.text(texts.below(4));
+    case 2:
+        return texts.text(texts.below(4));
+    case 3:
+        return query.substr(0, query.empty() ? 0 : query.size() - 1);
+    case 4:
+        std::transform(query.begin(), query.end(), query.begin(), [](char c) { return c == 'a' ? 'A' : c; });
+        return query;
+    default:
+        return query + whole.substr(std::min(query.size(), whole.size()), 1);
+    }
+}
+
+TEST(SearchOracle, NarrowingHasTheRankingFromScratchHoweverIsTyped)
+{
+    // Every ranking of either strategy; lists short and long enough for every way of sorting and of rejecting.
+    Comparison comparison("narrowing against searches from scratch");
+    GeneratedTexts texts(Seed + 8);
+    const std::size_t wanted = casesToRun();
+    while (comparison.cases() < wanted) {
+        const std::string whole = texts.query(40);
+        const auto candidates =
+            candidatesFor(texts, whole, texts.below(4) == 0 ? 600 + texts.below(1500) : texts.below(40));
+        NarrowingSearch technique(candidates, NarrowingSearch::Strategy::Technique);
+        NarrowingSearch text(candidates, NarrowingSearch::Strategy::Text);
+        std::string query;
+        for (std::size_t key = texts.below(50); key > 0; --key) {
+            query = typedOn(texts, std::move(query), whole);
+            const int maxResults = texts.below(2) == 0 ? -1 : static_cast<int>(texts.below(60));
+            const auto techniques =
+                FuzzyFinder::search(query, candidates, maxResults, std::make_unique<TechniqueSearchStrategy>());
+            comparison.expectEqual(techniques, technique.search(query, maxResults), "narrowed technique order", query,
+                                   "(list)");
+            comparison.expectEqual(FuzzyFinder::search(query, candidates, maxResults, std::make_unique<FtsStrategy>()),
+                                   text.search(query, maxResults), "narrowed text order", query, "(list)");
+            comparison.addCases(candidates.size());
+            comparison.addMatches(techniques.size());
+        }
+    }
 }
 
 TEST(SearchOracle, EveryLengthAroundTheLimitsWithANulAnywhereHasTheLiteralScores)

@@ -108,6 +108,12 @@ private:
 
 } // namespace
 
+std::string_view ftsQuery(std::string_view query)
+{
+    query = query.substr(0, query.find('\0'));
+    return query.size() <= LongestQuery ? query : std::string_view();
+}
+
 FtsScorer::FtsScorer(std::string_view query)
     : m_query{toLower(query), {}, {}}
 {

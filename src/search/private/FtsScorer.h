@@ -7,6 +7,9 @@
 
 namespace search {
 
+/// What the text strategy looks for when \p query is asked: it ends at a NUL. Empty if no text matches.
+std::string_view ftsQuery(std::string_view query);
+
 /// A query as FtsScorer asks it.
 struct FtsQuery
 {

@@ -4,13 +4,14 @@
 #include <array>
 #include <cstdint>
 #include <iterator>
+#include <limits>
 #include <utility>
 
 namespace search {
 
 namespace {
 
-constexpr unsigned DigitBits = 11;
+constexpr unsigned DigitBits = 12;
 constexpr std::size_t DigitCount = std::size_t{1} << DigitBits;
 
 /// Below this a sort by comparisons is done before the digits are counted.
@@ -66,48 +67,72 @@ std::vector<typename As::Type> distribute(Iterator begin, Iterator end, Digit di
     return ordered;
 }
 
+struct ScoreRange
+{
+    int worst = std::numeric_limits<int>::max();
+    int best = std::numeric_limits<int>::min();
+};
+
+ScoreRange scoreRange(std::span<const FuzzyMatch> matches)
+{
+    ScoreRange range;
+    for (const FuzzyMatch& match : matches) {
+        range.worst = std::min(range.worst, match.score);
+        range.best = std::max(range.best, match.score);
+    }
+    return range;
+}
+
 template <class As>
-std::vector<typename As::Type> ordered(std::vector<FuzzyMatch> matches)
+std::vector<typename As::Type> ordered(std::span<const FuzzyMatch> matches)
 {
     if (matches.size() < FewMatches) {
-        std::sort(matches.begin(), matches.end(), [](const FuzzyMatch& left, const FuzzyMatch& right) {
+        std::vector<FuzzyMatch> sorted(matches.begin(), matches.end());
+        std::sort(sorted.begin(), sorted.end(), [](const FuzzyMatch& left, const FuzzyMatch& right) {
             return left.score != right.score ? left.score > right.score : left.index > right.index;
         });
         std::vector<typename As::Type> result;
-        result.reserve(matches.size());
-        std::transform(matches.begin(), matches.end(), std::back_inserter(result), As::of);
+        result.reserve(sorted.size());
+        std::transform(sorted.begin(), sorted.end(), std::back_inserter(result), As::of);
         return result;
     }
 
+    const auto [worst, best] = scoreRange(matches);
+
     // Backwards the matches have the order that equal scores shall have, and every digit keeps it. Scores lie close
     // together, so that there is hardly ever more than one digit.
-    const auto [worst, best] =
-        std::minmax_element(matches.begin(), matches.end(),
-                            [](const FuzzyMatch& left, const FuzzyMatch& right) { return left.score < right.score; });
-    const int top = best->score;
-    std::uint32_t distance = static_cast<std::uint32_t>(top) - static_cast<std::uint32_t>(worst->score);
+    std::uint32_t distance = static_cast<std::uint32_t>(best) - static_cast<std::uint32_t>(worst);
     if (distance < DigitCount) {
-        return distribute<As>(matches.rbegin(), matches.rend(), Digit(top, 0));
+        return distribute<As>(matches.rbegin(), matches.rend(), Digit(best, 0));
     }
-    matches = distribute<AsMatch>(matches.rbegin(), matches.rend(), Digit(top, 0));
+    std::vector<FuzzyMatch> sorted = distribute<AsMatch>(matches.rbegin(), matches.rend(), Digit(best, 0));
     distance >>= DigitBits;
     unsigned shift = DigitBits;
     for (; distance >= DigitCount; distance >>= DigitBits, shift += DigitBits) {
-        matches = distribute<AsMatch>(matches.begin(), matches.end(), Digit(top, shift));
+        sorted = distribute<AsMatch>(sorted.begin(), sorted.end(), Digit(best, shift));
     }
-    return distribute<As>(matches.begin(), matches.end(), Digit(top, shift));
+    return distribute<As>(sorted.begin(), sorted.end(), Digit(best, shift));
 }
 
 } // namespace
 
-std::vector<FuzzyMatch> bestFirst(std::vector<FuzzyMatch> matches)
+std::vector<FuzzyMatch> bestFirst(std::span<const FuzzyMatch> matches)
 {
-    return ordered<AsMatch>(std::move(matches));
+    return ordered<AsMatch>(matches);
 }
 
-std::vector<std::size_t> indicesBestFirst(std::vector<FuzzyMatch> matches)
+std::vector<std::size_t> indicesBestFirst(std::span<const FuzzyMatch> matches, int maxResults)
 {
-    return ordered<AsIndex>(std::move(matches));
+    return firstOf(ordered<AsIndex>(matches), maxResults);
+}
+
+std::vector<std::size_t> firstOf(std::vector<std::size_t> indices, int maxResults)
+{
+    const auto bound = static_cast<std::size_t>(maxResults); // a negative number becomes one that no list reaches
+    if (bound < indices.size()) {
+        indices.resize(bound);
+    }
+    return indices;
 }
 
 } // namespace search

@@ -3,8 +3,6 @@
 #include "Ascii.h"
 #include "TechniqueRules.h"
 
-#include <search/TechniqueSearchStrategy.h>
-
 #include <algorithm>
 #include <cstdint>
 #include <limits>
@@ -14,10 +12,6 @@ using namespace search::technique;
 namespace search {
 
 namespace {
-
-/// Longer queries and texts are left to the function that wraps where the rule does.
-constexpr std::size_t LongestQuery = 10'000;
-constexpr std::size_t LongestText = std::numeric_limits<std::int32_t>::max();
 
 /// The most that a query of \p length letters can score without the prefix bonus: in one run, all letters word starts.
 constexpr std::int64_t mostPoints(std::int64_t length)
@@ -29,9 +23,12 @@ constexpr std::int64_t mostPoints(std::int64_t length)
 // What score() needs of the constants to give the same as the function it stands in for. The steps are those of
 // "Why a long list needs to look at runs only" in docs/search.md, which says why each is needed.
 static_assert(GapPenalty >= 0 && WordStartBonus >= 0 && ZeroPoints >= 0, "step 1: only gaps cost");
+static_assert(FirstPositionBonus + PrefixBonus >= WordStartBonus, "one letter scores most where it reads as zero");
 static_assert(ZeroPoints <= 3 * RunWeight, "step 2: a zero never pays while two letters of its run are left");
-static_assert(mostPoints(LongestQuery) <= std::numeric_limits<int>::max(), "step 5: no sum leaves the range of int");
-static_assert(LongestText - 1 <= std::numeric_limits<std::int32_t>::max(), "step 6: no position comes after 2 GiB");
+static_assert(mostPoints(TechniqueScorer::LongestQuery) <= std::numeric_limits<int>::max(),
+              "step 5: no sum leaves the range of int");
+static_assert(TechniqueScorer::LongestText - 1 <= std::numeric_limits<std::int32_t>::max(),
+              "step 6: no position comes after 2 GiB");
 
 } // namespace
 
@@ -47,28 +44,13 @@ TechniqueScorer::TechniqueScorer(std::string_view query)
     }
 }
 
-bool TechniqueScorer::canFollow(std::string_view text) const
-{
-    return m_letters.size() <= LongestQuery && text.size() <= LongestText;
-}
-
 std::optional<int> TechniqueScorer::score(std::string_view text) const
 {
-    if (m_letters.size() < 2 || !canFollow(text)) {
+    if (!canFollow(text)) {
         return TechniqueSearchStrategy::fuzzyMatchIterativeTechnique(m_query, text);
     }
-    const std::optional<Path> path = follow({}, 0, text);
-    return path ? std::optional<int>(scoreOf(*path, text)) : std::nullopt;
-}
-
-int TechniqueScorer::scoreOf(const Path& path, std::string_view text) const
-{
-    const std::size_t count = m_letters.size();
-    if (count < 2 || !prefixRange(m_query, text).empty()) {
-        return *TechniqueSearchStrategy::fuzzyMatchIterativeTechnique(m_query, text);
-    }
-    const int allZero = ZeroPoints * static_cast<int>(count) + GapPenalty;
-    return commonPoints(text) + std::max(pointsWithRun(path, count) + path.gain, allZero);
+    Path path;
+    return follow(path, 0, text) ? std::optional<int>(scoreOf(path, text)) : std::nullopt;
 }
 
 } // namespace search

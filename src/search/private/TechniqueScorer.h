@@ -3,9 +3,12 @@
 #include "Ascii.h"
 #include "TechniqueRules.h"
 
+#include <search/TechniqueSearchStrategy.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,6 +24,10 @@ namespace search {
 class TechniqueScorer
 {
 public:
+    /// Longer queries and texts are left to the function that wraps where the rule does.
+    static constexpr std::size_t LongestQuery = 10'000;
+    static constexpr std::size_t LongestText = std::numeric_limits<std::int32_t>::max();
+
     /// How far the first letters of the query have been followed in a text: each at its first place behind the one
     /// before, and what that brings. A path for more letters goes on where one for fewer ended.
     struct Path
@@ -38,33 +45,35 @@ public:
     std::optional<int> score(std::string_view text) const;
 
     /// False for a query or a text of such a length that paths are not to be used. score() knows what to do.
-    bool canFollow(std::string_view text) const;
+    bool canFollow(std::string_view text) const
+    {
+        return m_letters.size() <= LongestQuery && text.size() <= LongestText;
+    }
 
-    /// Where \p path, which has \p found letters of the query, leads to with all of them; nothing if \p text lacks
-    /// them. REQUIRES: canFollow(text).
-    std::optional<Path> follow(Path path, std::size_t found, std::string_view text) const;
+    /// Leads \p path, which has \p found letters of the query, to all of them. False if \p text lacks them.
+    /// REQUIRES: canFollow(text).
+    bool follow(Path& path, std::size_t found, std::string_view text) const;
 
     /// The score of \p text, of which \p path has all letters of the query.
-    int scoreOf(const Path& path, std::string_view text) const;
+    int scoreOf(Path path, std::string_view text) const;
 
 private:
     /// What \p path, which has \p found letters of the query, scores with the run that it ends in.
-    int pointsWithRun(const Path& path, std::size_t found) const;
+    int pointsWithRun(Path path, std::size_t found) const;
 
     std::string_view m_query;
     std::string m_letters; // the query in lower case
     std::vector<int> m_gapsBefore; // for each place of the query, how many word gaps the query has before it
 };
 
-inline int TechniqueScorer::pointsWithRun(const Path& path, std::size_t found) const
+inline int TechniqueScorer::pointsWithRun(Path path, std::size_t found) const
 {
     const int length = static_cast<int>(found - path.runStart);
     return path.points + technique::RunWeight * length * length
         + technique::WordStartBonus * (m_gapsBefore[found - 1] - m_gapsBefore[path.runStart]);
 }
 
-inline std::optional<TechniqueScorer::Path> TechniqueScorer::follow(Path path, std::size_t found,
-                                                                    std::string_view text) const
+inline bool TechniqueScorer::follow(Path& path, std::size_t found, std::string_view text) const
 {
     const std::size_t count = m_letters.size();
     std::size_t at = path.end;
@@ -85,7 +94,7 @@ inline std::optional<TechniqueScorer::Path> TechniqueScorer::follow(Path path, s
             ++at;
         }
         if (at == text.size()) {
-            return std::nullopt;
+            return false;
         }
         if (found > 0) {
             path.points = pointsWithRun(path, found) - technique::GapPenalty;
@@ -98,7 +107,21 @@ inline std::optional<TechniqueScorer::Path> TechniqueScorer::follow(Path path, s
         followRun();
     }
     path.end = static_cast<std::uint32_t>(at);
-    return path;
+    return true;
+}
+
+inline int TechniqueScorer::scoreOf(Path path, std::string_view text) const
+{
+    const std::size_t count = m_letters.size();
+    if (count == 1) {
+        return technique::commonPoints(text) + technique::RunWeight + technique::FirstPositionBonus
+            + technique::PrefixBonus;
+    }
+    if (count == 0 || !technique::prefixRange(m_query, text).empty()) {
+        return *TechniqueSearchStrategy::fuzzyMatchIterativeTechnique(m_query, text);
+    }
+    const int allZero = technique::ZeroPoints * static_cast<int>(count) + technique::GapPenalty;
+    return technique::commonPoints(text) + std::max(pointsWithRun(path, count) + path.gain, allZero);
 }
 
 } // namespace search
