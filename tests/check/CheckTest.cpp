@@ -1,5 +1,6 @@
 #include <batterydata/RawDataCollection.h>
 #include <check/Check.h>
+#include <check/Places.h>
 #include <check/Schema.h>
 #include <check/Suggest.h>
 #include <check/private/Document.h>
@@ -67,6 +68,22 @@ TEST(CheckDocument, KnowsWhereEveryKindOfValueStands)
     EXPECT_THAT(seen,
                 ElementsAre(u"={ "_s, u"/a\"\\=\"t"_s, u"/b=[ "_s, u"/b/0=-1"_s, u"/b/1=tr"_s, u"/b/2=fa"_s,
                             u"/b/3=nu"_s, u"/b/4={}"_s, u"/é=[["_s, u"/é/0=[]"_s));
+}
+
+TEST(CheckDocument, PlaceOfAPointerIsItsValueOrWhatIsThereOfTheWayToIt)
+{
+    const QByteArray bytes = R"({ "a": 1, "a b": { "c/d~": [2, 3] }, "": { "": 4 } })";
+    const QJsonObject root = QJsonDocument::fromJson(bytes).object();
+    const auto textAt = [&](const QString& pointer) { return bytes.sliced(offsetOf(bytes, root, pointer)).first(3); };
+    EXPECT_EQ(textAt(u""_s), "{ \"");
+    EXPECT_EQ(textAt(u"/a"_s), "1, ");
+    EXPECT_EQ(textAt(u"/a/b"_s), "1, ");
+    EXPECT_EQ(textAt(u"/a b/c~1d~0"_s), "[2,");
+    EXPECT_EQ(textAt(u"/a b/c~1d~0/1"_s), "3] ");
+    EXPECT_EQ(textAt(u"/a b/c~1d~0/2"_s), "[2,");
+    EXPECT_EQ(textAt(u"/a b/c"_s), "{ \"");
+    EXPECT_EQ(textAt(u"//"_s), "4 }");
+    EXPECT_EQ(textAt(u"/b/c"_s), "{ \"");
 }
 
 TEST(CheckDocument, OfRepeatedKeysOnlyTheLastIsVisited)
@@ -263,7 +280,8 @@ TEST(Check, RefusalThatNoRuleExplainsIsAnErrorWithTheSentenceOfTheLoader)
 {
     uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::GoOn);
     refusals.goOnAfter(u"Something is wrong"_s, u"/Somewhere"_s);
-    Findings findings(refusals);
+    const Document document("{}", {});
+    Findings findings(refusals, document.root());
     findings.addUnexplained();
     ASSERT_EQ(findings.list().size(), 1);
     const Finding finding = findings.list().constFirst();
@@ -306,7 +324,8 @@ TEST(Check, RefusalOfACatalogueThatNoRuleExplainsHasTheSentenceOfTheReader)
 {
     uiconfig::Refusals refusals(uiconfig::Refusals::AtFirst::Stop);
     refusals.goOnAfter(u"Something is wrong"_s, u"/Somewhere"_s);
-    Findings findings(refusals, Subject::Catalogue);
+    const Document document("{}", {});
+    Findings findings(refusals, document.root(), Subject::Catalogue);
     findings.addUnexplained();
     ASSERT_EQ(findings.list().size(), 1);
     EXPECT_EQ(findings.list().constFirst().rule, Rule::Refused);

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Gives cluiconfig large documents, and no more memory than they deserve; bench/large.py has larger ones.
+"""Gives cluiconfig large documents, and no more memory and time than they deserve; bench/large.py has larger ones.
 usage: large_test.py PROGRAM SHIPPED_DOCUMENT"""
 
 import json
@@ -48,6 +48,20 @@ class Large(program.TestCase):
     def test_many_unknown_keys(self):
         said = self.expect(self.document(**{f"Comment {i}": i for i in range(200_000)}))
         self.assertLess(len(said.splitlines()), 300)
+
+    def test_long_key_above_many_findings_costs_no_more_than_a_short_one(self):
+        import resource
+        faulty = {"Title": 1, "Category": 2, "X": 3}
+
+        def processor_time(title):
+            path = self.document(**{"Ragone Plot": {title: [faulty] * 10_000}, "Representations": [5]})
+            before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
+            result = self.run_program("check", path, **self.options)
+            self.assertEqual(result.returncode, 1, result.stderr[:1000])
+            self.assertIn("more findings of this rule follow", result.stdout)
+            return resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before
+
+        self.assertLess(processor_time("x" * 1_000_000), 10 * processor_time("x"))
 
     def test_many_lists(self):
         self.expect(self.document(Comment=[["x", 1.5, True, None]] * 200_000))

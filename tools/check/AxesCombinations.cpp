@@ -67,14 +67,13 @@ void checkReference(const Reference& reference, const Context& with)
                                [&] { return with.catalogue.unknownName(reference.name, effect(false)); });
         }
     } else if (with.catalogue.hasCategory(reference.category)) {
-        with.findings.report(Rule::UnknownArray, namePlace, reference.place.pointer(), [&](bool isRefused) {
+        with.findings.report(Rule::UnknownArray, namePlace, reference.place, [&](bool isRefused) {
             return with.catalogue.unknownNameIn(reference.category, reference.name, effect(isRefused));
         });
     } else {
-        with.findings.report(Rule::UnknownCategory, reference.place.member(keys::Category).value_or(reference.place),
-                             reference.place.pointer(), [&](bool isRefused) {
-                                 return with.catalogue.unknownCategory(reference.category, effect(isRefused));
-                             });
+        with.findings.report(
+            Rule::UnknownCategory, reference.place.member(keys::Category).value_or(reference.place), reference.place,
+            [&](bool isRefused) { return with.catalogue.unknownCategory(reference.category, effect(isRefused)); });
     }
 }
 

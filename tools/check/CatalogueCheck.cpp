@@ -115,7 +115,7 @@ void checkUnit(const Value& array, Findings& findings)
     const std::optional<Value> unit = array.member(UnitKey);
     if (!unit) {
         if (parameter.value_or(PhysicalParameter::None) != PhysicalParameter::None) {
-            findings.report(Rule::MissingKey, array, array.pointer() + jsonPointer(UnitKey), [&](bool /*isRefused*/) {
+            findings.reportMissing(array, UnitKey, [&](bool /*isRefused*/) {
                 return u"The key \"Unit\" is missing: %1. Add it, with %2."_s.arg(findings.refuses(),
                                                                                   aUnitOf(*parameter));
             });

@@ -173,7 +173,7 @@ Result inspect(const QByteArray& bytes, const QJsonObject& root, Subject subject
                CheckMeaning checkMeaning)
 {
     const Document document(bytes, root);
-    Findings findings(refusals, subject);
+    Findings findings(refusals, document.root(), subject);
     checkSpelling(document, findings);
     if (isOther(root, subject)) {
         findings.reportWhole(Rule::WrongKind, document.root(), [&](bool /*isRefused*/) {

@@ -295,6 +295,19 @@ QJsonValue Value::memberOf(const QJsonObject& object, const QString& key)
     return found == object.constEnd() ? QJsonValue(QJsonValue::Undefined) : found.value();
 }
 
+QString Document::stepTo(quint32 index) const
+{
+    const Node& node = m_nodes[index];
+    if (index == 0) {
+        return {};
+    }
+    if (node.keyOffset == 0) {
+        return jsonPointer(qsizetype{node.place});
+    }
+    const QString key = keyAt(node.keyOffset);
+    return jsonPointer(beginsWithMark(m_bytes, node.keyOffset) ? key.sliced(1) : key);
+}
+
 QString Document::pointerTo(quint32 index) const
 {
     constexpr qsizetype LongStep = 1000;
@@ -304,12 +317,8 @@ QString Document::pointerTo(quint32 index) const
     if (index == m_lastPointer.first) {
         return m_lastPointer.second;
     }
-    const Node& node = m_nodes[index];
-    const QString key = node.keyOffset == 0 ? QString() : keyAt(node.keyOffset);
-    const QString step = node.keyOffset == 0
-        ? jsonPointer(qsizetype{node.place})
-        : jsonPointer(beginsWithMark(m_bytes, node.keyOffset) ? key.sliced(1) : key);
-    const QString pointer = pointerTo(node.parent) + step;
+    const QString step = stepTo(index);
+    const QString pointer = pointerTo(m_nodes[index].parent) + step;
     if (step.size() > LongStep) {
         m_lastPointer = {index, pointer};
     }
@@ -319,6 +328,11 @@ QString Document::pointerTo(quint32 index) const
 QString Value::pointer() const
 {
     return m_document->pointerTo(m_index);
+}
+
+QString Value::step() const
+{
+    return m_document->stepTo(m_index);
 }
 
 } // namespace cluiconfig::check

@@ -8,14 +8,11 @@ using namespace Qt::StringLiterals;
 
 namespace cluiconfig::check {
 
-Findings::Findings(const uiconfig::Refusals& refusals, Subject subject)
+Findings::Findings(const uiconfig::Refusals& refusals, const Value& root, Subject subject)
     : m_refusals(refusals)
     , m_subject(subject)
+    , m_refused(refusals, root)
 {
-    qsizetype index = 0;
-    for (const uiconfig::Refusal& refusal : refusals.all()) {
-        m_refused.insert({refusal.place, {index++}});
-    }
 }
 
 QString Findings::refuses() const
@@ -23,7 +20,7 @@ QString Findings::refuses() const
     return m_subject == Subject::Catalogue ? u"the application refuses the catalogue"_s : Refuses;
 }
 
-bool Findings::explain(Refused& refused)
+bool Findings::explain(RefusedPlaces::Refused& refused)
 {
     return !std::exchange(refused.isExplained, true) && refused.index == 0;
 }
@@ -74,7 +71,7 @@ void Findings::add(const Finding& finding)
 
 void Findings::addUnexplained()
 {
-    for (const auto& [place, refused] : m_refused) {
+    for (const auto& [place, refused] : m_refused.all()) {
         if (!refused.isExplained) {
             Finding finding;
             finding.pointer = place;

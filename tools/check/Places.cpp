@@ -7,15 +7,14 @@ namespace cluiconfig::check {
 qsizetype offsetOf(const QByteArray& text, const QJsonObject& root, const QString& pointer)
 {
     const Document document(text, root);
-    const auto isOnTheWay = [&](const Value& value) {
-        const QString place = value.pointer();
-        return pointer == place || pointer.startsWith(place + u'/');
-    };
+    QStringView way = pointer;
     Value value = document.root();
-    while (value.pointer() != pointer) {
+    while (!way.isEmpty()) {
+        const qsizetype end = way.indexOf(u'/', 1);
+        const QStringView step = end < 0 ? way : way.first(end);
         std::optional<Value> next;
         value.forEach([&](const Value& child) {
-            if (!next && isOnTheWay(child)) {
+            if (!next && child.step() == step) {
                 next = child;
             }
         });
@@ -23,6 +22,7 @@ qsizetype offsetOf(const QByteArray& text, const QJsonObject& root, const QStrin
             break;
         }
         value = *next;
+        way = way.sliced(step.size());
     }
     return value.offset();
 }

@@ -3,8 +3,6 @@
 #include "Schema.h"
 #include "private/StructureMessages.h"
 
-#include <base/JsonPointer.h>
-
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -221,14 +219,12 @@ private:
 
     void reportMissing(const QString& key)
     {
-        const QString pointer = m_value.pointer() + jsonPointer(key);
-        if (!m_validation.findings.isRefused(pointer) && isMisspelt(key)) {
+        if (!m_validation.findings.isRefused(m_value, key) && isMisspelt(key)) {
             return; // the finding about the misspelt key says what to do
         }
         const QJsonObject schema = m_validation.compiled.resolved(m_schema.value(PropertiesKey).toObject().value(key));
-        m_validation.findings.report(Rule::MissingKey, m_value, pointer, [&](bool isRefused) {
-            return missingKeyMessage(key, schema, refusal(isRefused));
-        });
+        m_validation.findings.reportMissing(
+            m_value, key, [&](bool isRefused) { return missingKeyMessage(key, schema, refusal(isRefused)); });
     }
 
     /// Whether the value has an unknown key by which the known \p key may be meant.

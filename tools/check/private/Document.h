@@ -52,6 +52,7 @@ private:
     };
 
     QString keyAt(quint32 offset) const;
+    QString stepTo(quint32 index) const;
     QString pointerTo(quint32 index) const;
     void markShadowed();
 
@@ -86,8 +87,9 @@ public:
     /// The text of that member, empty if there is none.
     QString text(QLatin1StringView key) const;
 
-    /// The JSON pointer of the value.
+    /// The JSON pointer of the value, and the last step of it: "/Title". Both are empty for the root.
     QString pointer() const;
+    QString step() const;
 
     /// Calls \p visit with every member of an object, in document order, or every element of an array.
     template <typename Visit>

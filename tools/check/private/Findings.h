@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Document.h"
+#include "RefusedPlaces.h"
 
 #include <base/Refusals.h>
 #include <check/Finding.h>
@@ -41,13 +42,15 @@ public:
     static constexpr qsizetype MostOfARule = 200;
     static constexpr qsizetype LongestPointers = qsizetype{1} << 16; ///< altogether, of a rule
 
-    explicit Findings(const uiconfig::Refusals& refusals, Subject subject = Subject::Document);
+    /// \p root is that of the document; \p refusals live as long as the findings.
+    Findings(const uiconfig::Refusals& refusals, const Value& root, Subject subject = Subject::Document);
 
     Subject subject() const { return m_subject; }
     /// What happens to what is refused, in a message.
     QString refuses() const;
 
-    bool isRefused(const QString& pointer) const { return m_refused.contains(pointer); }
+    /// Whether \p object is refused since it lacks \p key.
+    bool isRefused(const Value& object, const QString& key) const { return m_refused.at(object, key) != nullptr; }
 
     /// Adds a warning at \p place. \p message is called if it is kept.
     template <typename Message>
@@ -63,42 +66,38 @@ public:
         addWarning(rule, place, place.keyOffset(), message);
     }
 
-    /// Adds what explains a refusal of \p pointer if there is one, which makes it an error, and a warning otherwise.
+    /// Adds what explains a refusal of \p value if there is one, which makes it an error, and a warning otherwise.
     /// \p message is called with whether there is one.
     template <typename Message>
-    void report(Rule rule, const Value& place, const QString& pointer, Message message)
+    void report(Rule rule, const Value& place, const Value& value, Message message)
     {
-        const auto refused = m_refused.find(pointer);
-        const bool isKnown = refused != m_refused.end();
-        if (!isKnown && !mayBeRefusedAnywhere()) {
-            warn(rule, place, [&] { return message(false); });
-            return;
-        }
-        const bool isFirst = isKnown && explain(refused->second);
-        addError(rule, place, isFirst, [&] { return message(true); });
+        reportRefused(rule, place, m_refused.at(value), message);
     }
 
     /// The same about the value at \p place itself.
     template <typename Message>
     void report(Rule rule, const Value& place, Message message)
     {
-        report(rule, place, m_refused.empty() ? QString() : place.pointer(), message);
+        report(rule, place, place, message);
+    }
+
+    /// The same about the member \p key that \p object lacks.
+    template <typename Message>
+    void reportMissing(const Value& object, const QString& key, Message message)
+    {
+        reportRefused(Rule::MissingKey, object, m_refused.at(object, key), message);
     }
 
     /// The same about a value that lacks everything which could be refused in it: it explains those refusals, too.
     template <typename Message>
     void reportWhole(Rule rule, const Value& place, Message message)
     {
-        const QString pointer = place.pointer();
         bool isError = mayBeRefusedAnywhere();
         bool isFirst = false;
-        for (auto each = m_refused.lower_bound(pointer); each != m_refused.end() && each->first.startsWith(pointer);
-             ++each) {
-            if (each->first.size() == pointer.size() || each->first.at(pointer.size()) == u'/') {
-                isError = true;
-                isFirst = explain(each->second) || isFirst;
-            }
-        }
+        m_refused.forEachWithin(place, [&](RefusedPlaces::Refused& refused) {
+            isError = true;
+            isFirst = explain(refused) || isFirst;
+        });
         if (isError) {
             addError(rule, place, isFirst, [&] { return message(true); });
         } else {
@@ -117,12 +116,6 @@ public:
     QList<Finding> list() const;
 
 private:
-    struct Refused
-    {
-        qsizetype index; // among all refusals
-        bool isExplained = false;
-    };
-
     struct Kept
     {
         Finding finding;
@@ -137,6 +130,17 @@ private:
         qsizetype count = 0;
         Severity worst = Severity::Off;
     };
+
+    template <typename Message>
+    void reportRefused(Rule rule, const Value& place, RefusedPlaces::Refused* refused, Message& message)
+    {
+        if (refused == nullptr && !mayBeRefusedAnywhere()) {
+            warn(rule, place, [&] { return message(false); });
+            return;
+        }
+        const bool isFirst = refused != nullptr && explain(*refused);
+        addError(rule, place, isFirst, [&] { return message(true); });
+    }
 
     template <typename Message>
     void addWarning(Rule rule, const Value& place, qsizetype offset, Message& message)
@@ -159,16 +163,16 @@ private:
     }
 
     static Finding made(Rule rule, Severity severity, qsizetype offset, const QString& pointer, const Advice& advice);
-    bool mayBeRefusedAnywhere() const { return m_subject == Subject::Catalogue && !m_refused.empty(); }
+    bool mayBeRefusedAnywhere() const { return m_subject == Subject::Catalogue && !m_refused.isEmpty(); }
     /// Notes that a finding explains \p refused; true when it is the first that explains the first refusal.
-    static bool explain(Refused& refused);
+    static bool explain(RefusedPlaces::Refused& refused);
     static bool isEarlier(const Kept& a, const Kept& b);
     bool isKept(Rule rule, Severity severity, qsizetype offset);
     void keep(const Finding& finding);
 
     const uiconfig::Refusals& m_refusals;
     Subject m_subject;
-    std::map<QString, Refused> m_refused; // by place
+    RefusedPlaces m_refused;
     std::map<Rule, OfRule> m_ofRule;
     std::optional<Finding> m_firstError;
 };
