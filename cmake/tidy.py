@@ -41,7 +41,8 @@ def for_clang(arguments):
         if arguments[i] == "-include" and "cmake_pch" in arguments[i + 1]:
             i += 2
             continue
-        if arguments[i] not in ("-Winvalid-pch", "-fpch-preprocess", "-Wno-restrict", "-Wno-stringop-overflow"):
+        # A "-Wno-…" is for a mistake of GCC's.
+        if arguments[i] not in ("-Winvalid-pch", "-fpch-preprocess") and not arguments[i].startswith("-Wno-"):
             kept.append(arguments[i])
         i += 1
     return kept
