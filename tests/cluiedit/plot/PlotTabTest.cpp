@@ -31,7 +31,6 @@ using namespace Qt::StringLiterals;
 using namespace cluiedit;
 
 using cl::datastorage::Converter;
-using cl::datastorage::DataArrayIdentifier;
 
 namespace {
 
