@@ -5,6 +5,7 @@
 #include <dlfcn.h>
 #include <errno.h>
 #include <fcntl.h>
+#include <pthread.h>
 #include <stdarg.h>
 #include <stdlib.h>
 #include <string.h>
@@ -53,6 +54,8 @@ CALL(fchown, descriptor, (int descriptor, uid_t owner, gid_t group), (descriptor
 CALL(rename, -1, (const char* from, const char* to), (from, to))
 CALL(linkat, -1, (int from_directory, const char* from, int to_directory, const char* to, int flags),
      (from_directory, from, to_directory, to, flags))
+CALL(pthread_create, -1, (pthread_t * thread, const pthread_attr_t* attributes, void* (*run)(void*), void* argument),
+     (thread, attributes, run, argument))
 
 int close(int descriptor)
 {

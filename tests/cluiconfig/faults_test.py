@@ -122,6 +122,12 @@ class CallsThatFail(PreloadTest):
         path = self.document()
         self.expect_replaced(path, **self.fault("fsync", command=f"touch {path}"))
 
+    def test_start_no_thread_or_too_few_for_a_search_that_does_without(self):
+        path = self.file("lines.txt", b"a cv\n" * 300_000)
+        for count in (1, 2):
+            self.assertEqual(self.run_program("search", "cv", path, **self.fault("pthread_create", count=count)).stdout,
+                             "a cv\n" * 300_000)
+
 
 @program.needs_posix("owners and links of POSIX")
 class OwnersAndLinks(FaultTest):

@@ -2,7 +2,9 @@
 """Runs `cluiconfig search` as people do: on files, in pipes, on a terminal. usage: search_test.py PROGRAM SHIPPED_DOCUMENT"""
 
 import os
+import random
 import subprocess
+import threading
 import unittest
 
 import program
@@ -131,6 +133,182 @@ class Search(program.TestCase):
         lines = everything.stdout.decode().splitlines()
         self.assertGreaterEqual(len(lines), 80)
         self.assertTrue(all(len(line.split(", ")) == 3 for line in lines))
+
+
+BLOCK = 1 << 19  # bytes that one thread searches at a time
+BEGINNINGS = (b"CV", b"cv", b"c-v", b"xcv", b"x cv", b"x_c_v", b"c" * 9 + b"v", b"cyclic voltammetry", b"constant voltage",
+              b"open circuit voltage", b"c" + b" " * 40 + b"v", b"v", b"cycle", b"")
+
+
+def numbered(beginning, number):
+    """A line of which there are no two; the number does not count in its score."""
+    return b"%s %07d" % (beginning, number)
+
+
+class LongList(program.TestCase):
+    """Lists that several threads search, block by block."""
+
+    @classmethod
+    def setUpClass(cls):
+        choice = random.Random(1)
+        cls.lines = [numbered(choice.choice(BEGINNINGS), number) for number in range(150_000)]
+        cls.text = b"\n".join(cls.lines) + b"\n"
+        assert len(cls.text) > 5 * BLOCK
+
+    def ranked(self, strategy):
+        """What is to be found, by the scores of a short list."""
+        output = search("cv", "--scores", "--strategy", strategy,
+                        stdin=b"\n".join(numbered(beginning, 0) for beginning in BEGINNINGS)).stdout
+        scores = {line: int(score) for score, _, line in (found.partition(b"\t") for found in output.splitlines())}
+        self.assertGreater(len(set(scores.values())), 4)
+        found = []
+        for number, line in enumerate(self.lines):
+            score = scores.get(line[:-7] + b"0000000")
+            if score is not None:
+                found.append((-score, -number))
+        return [(-score, self.lines[-number]) for score, number in sorted(found)]
+
+    def expect(self, lines, *arguments, stdin=None, **options):
+        result = subprocess.run([program.PROGRAM, "search", *arguments], capture_output=True, timeout=60,
+                                **({"input": self.text if stdin is None else stdin} if "stdin" not in options else {}), **options)
+        self.assertEqual((result.returncode, result.stderr), (0, b""))
+        self.assertTrue(result.stdout == b"".join(line + b"\n" for line in lines), "other lines, or another order")
+
+    def test_order_is_that_of_the_scores_and_then_from_the_last_line_to_the_first(self):
+        for strategy in ("technique", "text"):
+            with self.subTest(strategy):
+                self.expect([b"%d\t%s" % found for found in self.ranked(strategy)], "cv", "--scores", "--strategy", strategy)
+
+    def test_file_and_its_standard_input_give_the_same(self):
+        lines = [line for _, line in self.ranked("technique")]
+        path = self.file("lines.txt", self.text)
+        self.expect(lines, "cv", path, stdin=b"")
+        with open(path, "rb") as file:
+            result = subprocess.run([program.PROGRAM, "search", "cv"], stdin=file, capture_output=True, timeout=60)
+        self.assertEqual((result.returncode, result.stdout == b"".join(line + b"\n" for line in lines)), (0, True))
+
+    def test_max_gives_the_beginning_of_the_same(self):
+        lines = [line for _, line in self.ranked("technique")]
+        for most in (0, 1, 7, 20_000, len(lines) - 1, len(lines), len(lines) + 1, 2**31 - 1, -1):
+            with self.subTest(most):
+                self.expect(lines if most < 0 else lines[:most], "cv", f"--max={most}")
+
+    @unittest.skipUnless(hasattr(os, "sched_setaffinity"), "needs processors that can be chosen")
+    def test_one_processor_suffices(self):
+        one = {min(os.sched_getaffinity(0))}
+        self.expect([line for _, line in self.ranked("technique")], "cv", preexec_fn=lambda: os.sched_setaffinity(0, one))
+
+    def test_line_ends_wherever_a_block_does(self):
+        count = BLOCK * 2 // 16 + 2
+        for shift in range(17):
+            with self.subTest(shift):
+                lines = [numbered(b"a cv x", number) for number in range(count)]
+                self.assertEqual(len(lines[0]) + 2, 16)
+                self.expect(reversed(lines), "cv", stdin=b"v" * shift + b"\n" + b"\r\n".join(lines) + b"\r\n")
+
+    def test_last_line_may_lack_its_end_wherever_a_block_ends(self):
+        for size in (BLOCK - 1, BLOCK, BLOCK + 1, 2 * BLOCK):
+            for end in (b"", b"\r"):
+                with self.subTest(size=size, end=end):
+                    last = b"b" * (size - 2 - len(end)) + end
+                    self.expect([last, b"b"], "b", stdin=b"b\n" + last)
+
+    def test_lines_of_several_blocks_stand_among_short_ones(self):
+        long = [b"c" + b"x" * size + b"v" for size in (BLOCK - 1, BLOCK, 3 * BLOCK, 5 * BLOCK + 1)]
+        lines = [b"%d\n%s\n%d" % (number, line, number) for number, line in enumerate(long)]
+        self.expect(reversed(long), "cv", stdin=b"\n".join(lines) + b"\n")
+
+    def test_empty_lines_are_lines(self):
+        self.expect([b""] * 2_000_000, "", stdin=b"\n" * 2_000_000)
+
+    def test_every_line_may_have_a_score_of_its_own(self):
+        lines = [b"c" + b"x" * number + b"v" for number in range(2000)]
+        self.expect(lines[:236], "cv", "--strategy", "text", "--max", "236", stdin=b"\n".join(reversed(lines)))
+
+    @program.needs_posix("a pipe with a name")
+    def test_pipe_with_a_name_is_read_to_its_end(self):
+        path = self.directory / "pipe"
+        os.mkfifo(path)
+        writer = threading.Thread(target=path.write_bytes, args=(self.text,))
+        writer.start()
+        self.expect([line for _, line in self.ranked("technique")], "cv", str(path), stdin=b"")
+        writer.join()
+
+    @unittest.skipUnless(os.path.exists("/proc/filesystems"), "needs files without a size")
+    def test_file_that_says_no_size_is_read_to_its_end(self):
+        with open("/proc/filesystems", "rb") as file:
+            self.expect(reversed(file.read().splitlines()), "", "/proc/filesystems", stdin=b"")
+
+    @unittest.skipUnless(os.path.exists("/proc/self/mem"), "needs a file that opens and does not read")
+    @program.needs_posix("a path below /proc")
+    def test_file_that_opens_and_does_not_read_is_named_with_exit_code_2(self):
+        self.assertEqual(self.message(2, "search", "a", "/proc/self/mem"), "/proc/self/mem: Input/output error\n")
+
+    @program.needs_posix("a file that others change")
+    def test_file_may_shrink_and_grow_meanwhile(self):
+        path = self.directory / "lines.txt"
+        path.write_bytes(self.text)
+        done = threading.Event()
+
+        def change():
+            choice = random.Random(2)
+            while not done.is_set():
+                with open(path, "r+b") as file:
+                    file.truncate(choice.randrange(len(self.text)))
+                    file.write(self.text)
+        changing = threading.Thread(target=change)
+        changing.start()
+        try:
+            for _ in range(20):
+                result = search("cv", str(path))
+                self.assertEqual((result.returncode, result.stderr), (0, b""))
+        finally:
+            done.set()
+            changing.join()
+
+    def test_more_than_four_gibibytes_are_searched(self):
+        """A file with holes, whose lines are mostly of NUL."""
+        path, distance, count = self.directory / "lines.txt", 1 << 20, 4097
+        with open(path, "wb") as file:
+            for number in range(count):
+                file.seek(number * distance)
+                file.write(b"\na%d:cv\n" % number)
+        if path.stat().st_blocks * 512 > 1 << 26:
+            self.skipTest("needs a file system with holes in files")
+        self.assertGreater(path.stat().st_size, 1 << 32)
+        self.expect([b"a%d:cv" % number for number in reversed(range(count))], "cv", str(path), stdin=b"")
+
+
+@program.needs_posix("limits on memory")
+class LittleMemory(program.TestCase):
+    def setUp(self):
+        super().setUp()
+        import resource
+        one = {min(os.sched_getaffinity(0))}
+
+        def limit():
+            resource.setrlimit(resource.RLIMIT_AS, (200_000_000, 200_000_000))
+            os.sched_setaffinity(0, one)
+        self.options = {"preexec_fn": limit}
+        if self.run_program("--version", **self.options).returncode != 0:
+            self.skipTest("needs a program that begins with little memory, which sanitizers take")
+
+    def test_suffices_for_a_long_list_of_which_little_is_found(self):
+        path = self.file("lines.txt", (b"abc" * 10 + b"\n") * 7_000_000 + b"cv\n")
+        self.assertEqual(self.run_program("search", "cv", path, **self.options).stdout, "cv\n")
+
+    def test_suffices_for_the_best_of_a_long_list(self):
+        path = self.file("lines.txt", (b"cv" * 15 + b"\n") * 7_000_000)
+        self.assertEqual(self.run_program("search", "cv", path, "--max", "2", **self.options).stdout, ("cv" * 15 + "\n") * 2)
+
+    def test_that_does_not_suffice_is_said_by_one_thread_or_several(self):
+        path = self.file("lines.txt", (b"cv" * 15 + b"\n") * 7_000_000)
+        import resource
+        several = lambda: resource.setrlimit(resource.RLIMIT_AS, (300_000_000, 300_000_000))
+        for arguments, limit in ((["cv", path], self.options["preexec_fn"]), (["cv", path], several), (["cv", "/dev/zero"], several)):
+            with self.subTest(arguments):
+                self.assertEqual(self.message(2, "search", *arguments, preexec_fn=limit),
+                                 "There is not enough memory for that.\n")
 
 
 if __name__ == "__main__":

@@ -15,6 +15,7 @@ namespace cluiconfig {
 
 namespace {
 
+/// All that standard input has.
 QByteArray readStandardInputOnce()
 {
     static bool isRead = false;
@@ -22,7 +23,15 @@ QByteArray readStandardInputOnce()
         fail(u"\"-\" is named twice: standard input can be read only once. Save it in a file first."_s);
     }
     isRead = true;
-    return readStandardInput();
+    constexpr qsizetype PieceSize = qsizetype{1} << 20;
+    QByteArray bytes;
+    qsizetype size = 0;
+    for (qsizetype found = PieceSize; found == PieceSize; size += found) {
+        bytes.resize(size + PieceSize);
+        found = static_cast<qsizetype>(readStandardInput(bytes.data() + size, std::size_t{PieceSize}));
+    }
+    bytes.resize(size);
+    return bytes;
 }
 
 } // namespace
@@ -68,20 +77,13 @@ bool isStandardInput(const std::string& argument)
     return argument == "-";
 }
 
-QByteArray readStandardInput()
+std::size_t readStandardInput(char* bytes, std::size_t size)
 {
-    constexpr qsizetype PieceSize = qsizetype{1} << 20;
-    QByteArray bytes;
-    qsizetype size = 0;
-    for (qsizetype found = PieceSize; found == PieceSize; size += found) {
-        bytes.resize(size + PieceSize);
-        found = static_cast<qsizetype>(std::fread(bytes.data() + size, 1, static_cast<std::size_t>(PieceSize), stdin));
-    }
+    const std::size_t found = std::fread(bytes, 1, size, stdin);
     if (std::ferror(stdin) != 0) {
         fail(u"standard input: "_s + lastError());
     }
-    bytes.resize(size);
-    return bytes;
+    return found;
 }
 
 } // namespace cluiconfig

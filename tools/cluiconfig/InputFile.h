@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -42,7 +43,8 @@ private:
 /// Whether \p argument names standard input.
 bool isStandardInput(const std::string& argument);
 
-/// All that standard input has. Ends the command with ExitCannotRun when it cannot be read.
-QByteArray readStandardInput();
+/// Puts the next \p size bytes of standard input to \p bytes and returns how many there were, fewer only at its end.
+/// Ends the command with ExitCannotRun when it cannot be read.
+std::size_t readStandardInput(char* bytes, std::size_t size);
 
 } // namespace cluiconfig

@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+#include <array>
 #include <cerrno>
 #include <cstring>
 
@@ -62,6 +63,10 @@ std::optional<qsizetype> terminalWidth()
 
 void prepareStreams()
 {
+    static std::array<char, 1U << 16> buffer; // stays until the last byte is written
+    if (!isTerminal(stdout)) {
+        std::setvbuf(stdout, buffer.data(), _IOFBF, buffer.size());
+    }
 #ifdef _WIN32
     _setmode(_fileno(stdin), _O_BINARY);
     _setmode(_fileno(stdout), _O_BINARY);
@@ -129,7 +134,7 @@ void printRest()
 
 QString lastError()
 {
-    return QString::fromLocal8Bit(std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): one thread
+    return QString::fromLocal8Bit(std::strerror(errno)); // NOLINT(concurrency-mt-unsafe): one thread at a time
 }
 
 void fail(const QString& message, int exitCode)

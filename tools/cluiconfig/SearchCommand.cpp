@@ -1,5 +1,6 @@
 #include "Commands.h"
 #include "InputFile.h"
+#include "LineSearch.h"
 #include "Output.h"
 
 #include <check/Text.h>
@@ -11,12 +12,14 @@
 #include <QFile>
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -37,69 +40,62 @@ struct SearchOptions
     bool scores = false;
 };
 
-QByteArray readFile(const std::string& path)
-{
-    const InputFile input(path);
-    QFile file(input.path());
-    QByteArray bytes;
-    if (file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        bytes = file.readAll();
-    }
-    if (file.error() != QFileDevice::NoError) {
-        fail(input.name() + u": "_s + file.errorString());
-    }
-    return bytes;
-}
-
-/// All bytes of the file that \p options name; without one, those of standard input or, at a terminal, of the shipped
+/// The lines of the file that \p options name; without one, those of standard input or, at a terminal, of the shipped
 /// list.
-QByteArray readInput(const SearchOptions& options)
+LineSearch bestLines(const SearchOptions& options)
 {
+    const auto rank = [&](std::span<const std::string_view> lines) {
+        return options.strategy == TextStrategy ? FtsStrategy::rank(options.query, lines)
+                                                : TechniqueSearchStrategy::rank(options.query, lines);
+    };
+    const std::size_t most = options.maxResults < 0 ? SIZE_MAX : static_cast<std::size_t>(options.maxResults);
     if (options.file ? isStandardInput(*options.file) : !isTerminal(stdin)) {
-        return readStandardInput();
+        return LineSearch(readStandardInput, rank, most);
     }
     const std::string path = options.file.value_or(TechniqueList);
     if (path.empty()) {
         fail(u"the name of FILE is empty"_s);
     }
-    return readFile(path);
-}
-
-/// A line ends with a line feed, which a carriage return may precede; the last one may lack it.
-std::vector<std::string_view> splitLines(std::string_view text)
-{
-    std::vector<std::string_view> lines;
-    lines.reserve(text.size() / 32);
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        std::string_view line = text.substr(0, end);
-        if (end < text.size() && !line.empty() && line.back() == '\r') {
-            line.remove_suffix(1);
+    const InputFile input(path);
+    QFile file(input.path());
+    const auto require = [&](bool isDone) {
+        if (!isDone) {
+            fail(input.name() + u": "_s + file.errorString());
         }
-        lines.push_back(line);
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return lines;
+    };
+    require(file.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+    const auto read = [&](char* bytes, std::size_t size) {
+        const qint64 found = file.read(bytes, static_cast<qint64>(size));
+        require(file.error() == QFileDevice::NoError);
+        return static_cast<std::size_t>(std::max(found, qint64{0}));
+    };
+    return LineSearch(read, rank, most);
 }
 
-void printBestFirst(const std::vector<FuzzyMatch>& matches, const std::vector<std::string_view>& lines,
-                    const SearchOptions& options)
+/// \p lines with their scores, if these are wanted, and such that people see what is in them.
+QByteArray shown(const LineSearch::Lines& lines, bool scores, bool isForPeople)
 {
-    std::size_t count = matches.size();
-    if (options.maxResults >= 0) {
-        count = std::min(count, static_cast<std::size_t>(options.maxResults));
-    }
-    const bool isForPeople = isTerminal(stdout);
+    const QByteArray score = scores ? QByteArray::number(lines.score) + '\t' : QByteArray();
     QByteArray output;
-    for (std::size_t i = 0; i < count; ++i) {
-        if (options.scores) {
-            output.append(QByteArray::number(matches[i].score)).append('\t');
-        }
-        const std::string_view line = lines[matches[i].index];
-        const QByteArrayView bytes(line.data(), static_cast<qsizetype>(line.size()));
-        output.append(isForPeople ? check::printable(QString::fromUtf8(bytes)).toUtf8() : bytes).append('\n');
+    for (std::string_view rest = lines.text; !rest.empty();) {
+        const std::size_t end = rest.find('\n');
+        const QByteArrayView line(rest.data(), static_cast<qsizetype>(end));
+        output += score;
+        output.append(isForPeople ? check::printable(QString::fromUtf8(line)).toUtf8() : line).append('\n');
+        rest.remove_prefix(end + 1);
     }
-    print(output);
+    return output;
+}
+
+void search(const SearchOptions& options)
+{
+    const LineSearch search = bestLines(options);
+    const bool isForPeople = isTerminal(stdout);
+    for (const LineSearch::Lines& lines : search.bestFirst()) {
+        print(options.scores || isForPeople
+                  ? shown(lines, options.scores, isForPeople)
+                  : QByteArray::fromRawData(lines.text.data(), static_cast<qsizetype>(lines.text.size())));
+    }
 }
 
 /// The parser's own conversion takes 010 for eight and nothing for zero.
@@ -111,15 +107,6 @@ int wholeNumber(const std::string& option, const std::string& text)
         throw CLI::ValidationError(option, '"' + text + "\" is not a whole number within 32 bits");
     }
     return number;
-}
-
-void search(const SearchOptions& options)
-{
-    const QByteArray bytes = readInput(options);
-    const std::vector<std::string_view> lines = splitLines({bytes.constData(), static_cast<std::size_t>(bytes.size())});
-    printBestFirst(options.strategy == TextStrategy ? FtsStrategy::rank(options.query, lines)
-                                                    : TechniqueSearchStrategy::rank(options.query, lines),
-                   lines, options);
 }
 
 } // namespace
