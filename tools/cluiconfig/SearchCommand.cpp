@@ -50,7 +50,7 @@ LineSearch bestLines(const SearchOptions& options)
     };
     const std::size_t most = options.maxResults < 0 ? SIZE_MAX : static_cast<std::size_t>(options.maxResults);
     if (options.file ? isStandardInput(*options.file) : !isTerminal(stdin)) {
-        return LineSearch(readStandardInput, rank, most);
+        return {readStandardInput, rank, most};
     }
     const std::string path = options.file.value_or(TechniqueList);
     if (path.empty()) {
@@ -69,7 +69,7 @@ LineSearch bestLines(const SearchOptions& options)
         require(file.error() == QFileDevice::NoError);
         return static_cast<std::size_t>(std::max(found, qint64{0}));
     };
-    return LineSearch(read, rank, most);
+    return {read, rank, most};
 }
 
 /// \p lines with their scores, if these are wanted, and such that people see what is in them.
