@@ -44,7 +44,7 @@ def least(commands, path):
 
 
 def line(*cells):
-    widths = (33, 7, 6, 7, 10, 11, 11, 11, 6)
+    widths = (33, 7, 6, 7, 8, 5, 9, 6, 5)
     return "| " + " | ".join(cell.ljust(width) for cell, width in zip(cells, widths)) + " |"
 
 
@@ -59,7 +59,7 @@ def row(name, ours, fzf, fzy):
 
 
 def main(programs, beginning=""):
-    print(line("names, query, strategy", "ours", "fzf", "fzy", "fzf / ours", "wall", "processor", "memory", "ours"))
+    print(line("names, query, strategy", "ours", "fzf", "fzy", "fzf/ours", "wall", "processor", "memory", "ours"))
     print(line(*[""] * 9).replace(" ", "-"))
     most = (f"≤ {most}" for most in MOST_OF_FZY.values())
     print(line("wanted", "", "", "", f"≥ {LEAST_SPEED_UP_OVER_FZF}", *most, ""))
