@@ -79,6 +79,9 @@ bool isStandardInput(const std::string& argument)
 
 std::size_t readStandardInput(char* bytes, std::size_t size)
 {
+    if (std::feof(stdin) != 0) {
+        return 0; // who types need not say a second time that this is all
+    }
     const std::size_t found = std::fread(bytes, 1, size, stdin);
     if (std::ferror(stdin) != 0) {
         fail(u"standard input: "_s + lastError());
