@@ -1,11 +1,12 @@
 // Any query in any list, in lines of the input: both strategies give the scores and the order of their literal
-// versions.
+// versions, and so does the query typed letter by letter.
 
 #include "Fuzz.h"
 
 #include <search/FtsStrategy.h>
 #include <search/FuzzyFinder.h>
 #include <search/LiteralSearch.h>
+#include <search/NarrowingSearch.h>
 #include <search/TechniqueSearchStrategy.h>
 
 #include <memory>
@@ -25,6 +26,7 @@ using Score = std::optional<int>;
 
 template <typename Strategy>
 void compare(const std::string& query, const std::vector<std::string>& candidates, int maxResults,
+             NarrowingSearch::Strategy strategy,
              Score (*literalScore)(const std::string& query, const std::string& candidate))
 {
     const std::vector<std::string_view> views(candidates.begin(), candidates.end());
@@ -46,6 +48,12 @@ void compare(const std::string& query, const std::vector<std::string>& candidate
         order.resize(static_cast<std::size_t>(maxResults));
     }
     require(found == order, "the finder gives the first of the order");
+
+    NarrowingSearch narrowing(candidates, strategy);
+    for (std::size_t length = 0; length < query.size(); length += 1 + query.size() / 4) {
+        narrowing.search(query.substr(0, length), maxResults);
+    }
+    require(narrowing.search(query, maxResults) == order, "and so it does when the query is typed");
 }
 
 } // namespace
@@ -67,8 +75,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     const std::string query = lines.front().substr(0, LongestQuery);
     lines.erase(lines.begin());
 
-    compare<FtsStrategy>(query, lines, maxResults, literal::textScore);
-    compare<TechniqueSearchStrategy>(query, lines, maxResults,
+    compare<FtsStrategy>(query, lines, maxResults, NarrowingSearch::Strategy::Text, literal::textScore);
+    compare<TechniqueSearchStrategy>(query, lines, maxResults, NarrowingSearch::Strategy::Technique,
                                      [](const std::string& pattern, const std::string& candidate) {
                                          return literal::techniqueScore(pattern, candidate);
                                      });

@@ -1,7 +1,9 @@
 #include "Candidates.h"
 
 #include <search/FtsStrategy.h>
+#include <search/FuzzyFinder.h>
 #include <search/LiteralSearch.h>
+#include <search/NarrowingSearch.h>
 #include <search/TechniqueSearchStrategy.h>
 
 #include <benchmark/benchmark.h>
@@ -11,6 +13,7 @@
 #include <cstdint>
 #include <ctime>
 #include <limits>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -59,9 +62,12 @@ std::uint64_t readEveryByte(const std::vector<std::string>& names, const std::ar
 
 const std::vector<std::string>& namesOf(bench::NameKind kind)
 {
-    static const std::vector<std::string> techniques = bench::makeNames(bench::NameKind::Technique, NameCount);
-    static const std::vector<std::string> paths = bench::makeNames(bench::NameKind::Path, NameCount);
-    return kind == bench::NameKind::Technique ? techniques : paths;
+    static std::map<bench::NameKind, std::vector<std::string>> lists;
+    std::vector<std::string>& names = lists[kind];
+    if (names.empty()) {
+        names = bench::makeNames(kind, NameCount);
+    }
+    return names;
 }
 
 template <class Strategy>
@@ -85,7 +91,7 @@ void againstFloor(benchmark::State& state, bench::NameKind kind, bench::Query qu
         state.SetIterationTime(seconds);
     }
     state.counters["ratio"] = search / floor;
-    state.counters["target"] = query.kind == bench::QueryKind::Unselective ? 3 : 1;
+    state.counters["kind"] = static_cast<double>(query.kind);
     state.counters["ns_per_name"] = search / static_cast<double>(names.size()) * 1e9;
     state.counters["percent"] = 100.0 * static_cast<double>(found) / static_cast<double>(names.size());
 }
@@ -111,29 +117,70 @@ void literally(benchmark::State& state, bench::NameKind kind, std::string_view q
     state.counters["ns_per_name"] = best / static_cast<double>(names.size()) * 1e9;
 }
 
+/// Types \p word letter by letter, and each time looks at the best fifty of what matches: in a NarrowingSearch that has
+/// been used before, and by searches from scratch.
+template <class AStrategy>
+void typing(benchmark::State& state, NarrowingSearch::Strategy strategy, std::string_view word)
+{
+    constexpr int Shown = 50;
+    const std::vector<std::string>& names = namesOf(bench::NameKind::Technique);
+    NarrowingSearch narrowing(names, strategy);
+    double fromScratch = std::numeric_limits<double>::max();
+    double narrowed = std::numeric_limits<double>::max();
+    const auto typed = [word](auto search) {
+        std::size_t found = 0;
+        for (std::size_t length = 1; length <= word.size(); ++length) {
+            found += search(std::string(word.substr(0, length))).size();
+        }
+        return found;
+    };
+    for (auto _ : state) {
+        fromScratch = std::min(fromScratch, secondsFor([&] {
+                                   return typed([&](const std::string& query) {
+                                       return FuzzyFinder::search(query, names, Shown, std::make_unique<AStrategy>());
+                                   });
+                               }));
+        narrowing.search("\x01"); // in no name: everything is forgotten
+        const double seconds =
+            secondsFor([&] { return typed([&](const std::string& query) { return narrowing.search(query, Shown); }); });
+        narrowed = std::min(narrowed, seconds);
+        state.SetIterationTime(seconds);
+    }
+    state.counters["scratch_ms"] = fromScratch * 1e3;
+    state.counters["narrowed_ms"] = narrowed * 1e3;
+    state.counters["ratio"] = narrowed / fromScratch;
+}
+
+template <class Function>
+void add(const std::string& name, Function function)
+{
+    benchmark::RegisterBenchmark(name.c_str(), function)->UseManualTime()->Unit(benchmark::kMillisecond);
+}
+
 bool registerAll()
 {
-    for (const auto kind : {bench::NameKind::Technique, bench::NameKind::Path}) {
-        const std::string names = kind == bench::NameKind::Technique ? "technique names" : "path names";
+    for (const auto& [kind, name] : bench::NameLists) {
         for (const bench::Query query : bench::queriesFor(kind)) {
-            const std::string what = names
-                + (query.kind == bench::QueryKind::RareLetter      ? ", rare letter, "
-                       : query.kind == bench::QueryKind::RareOrder ? ", rare order, "
-                                                                   : ", unselective, ")
-                + std::to_string(query.text.size()) + " bytes";
-            const auto add = [](const std::string& name, auto function) {
-                benchmark::RegisterBenchmark(name.c_str(), function)->UseManualTime()->Unit(benchmark::kMillisecond);
-            };
-            add("search technique/" + what,
+            const std::string what = std::string(name) + "|" + std::string(query.text);
+            add("technique|" + what,
                 [=](benchmark::State& state) { againstFloor<TechniqueSearchStrategy>(state, kind, query); });
-            add("search text/" + what, [=](benchmark::State& state) { againstFloor<FtsStrategy>(state, kind, query); });
-            add("literal text/" + what,
-                [=](benchmark::State& state) { literally(state, kind, query.text, literal::textScore); });
-            if (query.text.size() <= LongestLiteralQuery) {
-                add("literal technique/" + what,
+            add("text|" + what, [=](benchmark::State& state) { againstFloor<FtsStrategy>(state, kind, query); });
+            if (query.kind == bench::QueryKind::Unselective) {
+                add("literal text|" + what,
+                    [=](benchmark::State& state) { literally(state, kind, query.text, literal::textScore); });
+            }
+            if (query.kind == bench::QueryKind::Unselective && query.text.size() <= LongestLiteralQuery) {
+                add("literal technique|" + what,
                     [=](benchmark::State& state) { literally(state, kind, query.text, literal::techniqueScore); });
             }
         }
+    }
+    for (const char* word : {"characterisation", "voltammetry"}) {
+        add(std::string("typing|technique|") + word, [=](benchmark::State& state) {
+            typing<TechniqueSearchStrategy>(state, NarrowingSearch::Strategy::Technique, word);
+        });
+        add(std::string("typing|text|") + word,
+            [=](benchmark::State& state) { typing<FtsStrategy>(state, NarrowingSearch::Strategy::Text, word); });
     }
     return true;
 }

@@ -18,6 +18,7 @@ TURNS = 7
 LISTS = {  # the lists of bench_search_names, and queries that few names match, some, most, and one that is a letter
     "technique": {"selective": "khz step o", "middling": "volt", "unselective": "charprotoc", "one letter": "e"},
     "path": {"selective": "cellsqx-z/", "middling": "data", "unselective": "batcellcyc", "one letter": "e"},
+    "real path": {"selective": "libcmake", "middling": "name", "unselective": "/usr/", "one letter": "e"},
 }
 STRATEGIES = ("technique", "text")
 LEAST_SPEED_UP_OVER_FZF = 4

@@ -37,7 +37,7 @@ double nanosecondsPerName(const std::string& query, const std::vector<std::strin
 int main()
 {
     for (const auto kind : {bench::NameKind::Technique, bench::NameKind::Path}) {
-        const char* what = kind == bench::NameKind::Technique ? "technique names" : "path names";
+        const char* what = kind == bench::NameKind::Technique ? "technique" : "path";
         const std::vector<std::string> names = bench::makeNames(kind, NameCount);
         for (const bench::Query& query : bench::queriesFor(kind)) {
             const std::string text(query.text);

@@ -248,7 +248,7 @@ TEST(SubsequenceFilter, IsExactButForWhatIsFoldedWhateverLettersAreDecisive)
     for (int i = 0; i < 40'000; ++i) {
         const std::string query = random.query(search::SubsequenceFilter::MostLetters);
         const std::string text = random.candidate(query);
-        const search::SubsequenceFilter filter(query, someLetters(random, query));
+        const search::SubsequenceFilter filter(query, {someLetters(random, query), false});
         const bool expected = containsInOrder(folded(query), folded(text));
         contained += expected ? 1 : 0;
         // Of the last few bytes behind the pieces of a long text, and of as short a text, it says nothing.
@@ -271,7 +271,8 @@ TEST(SubsequenceFilter, NeverRejectsATextThatContainsALongQuery)
         const std::string text = random.candidate(query);
         if (query.size() > search::SubsequenceFilter::MostLetters && containsInOrder(query, text)) {
             ++contained;
-            ASSERT_TRUE(search::SubsequenceFilter(query, someLetters(random, query)).mayContain(text))
+            ASSERT_TRUE(
+                search::SubsequenceFilter(query, {someLetters(random, query), random.below(2) == 0}).mayContain(text))
                 << query << " in " << text;
         }
     }
@@ -288,7 +289,7 @@ TEST(DecisiveLetters, AreAFewOfTheQueryInTheirOrder)
             texts.push_back(random.candidate(query));
         }
         const std::vector<std::string_view> sample(texts.begin(), texts.end());
-        const std::string letters = search::decisiveLetters(query, sample);
+        const std::string letters = search::decisiveLetters(query, sample).letters;
         ASSERT_LE(letters.size(), search::SubsequenceFilter::MostDecisiveLetters);
         ASSERT_TRUE(containsInOrder(letters, query)) << letters << " of " << query;
     }
@@ -297,32 +298,49 @@ TEST(DecisiveLetters, AreAFewOfTheQueryInTheirOrder)
 TEST(DecisiveLetters, AreThoseThatFewTextsHave)
 {
     const std::vector<std::string_view> sample(40, "Linear Sweep");
-    EXPECT_EQ(search::decisiveLetters("sqr", sample), "q");
-    EXPECT_EQ(search::decisiveLetters("SQR", sample), "Q");
+    EXPECT_EQ(search::decisiveLetters("sqr", sample).letters, "q");
+    EXPECT_EQ(search::decisiveLetters("SQR", sample).letters, "Q");
+}
+
+TEST(DecisiveLetters, DoNotSufficeWhereManyTextsHaveThemAndLackTheQuery)
+{
+    // Of 64 texts 20 have no q, and for each of the other letters there are three that lack it.
+    const std::string query = "abcdefghq";
+    std::vector<std::string> texts(20, query);
+    texts.resize(40, "abcdefgh");
+    for (std::size_t i = 0; i < 24; ++i) {
+        texts.push_back(std::string(query).erase(i / 3, 1));
+    }
+    const search::DecisiveLetters decisive =
+        search::decisiveLetters(query, std::vector<std::string_view>(texts.begin(), texts.end()));
+    EXPECT_EQ(decisive.letters, "q");
+    EXPECT_FALSE(decisive.suffice);
+    EXPECT_FALSE(search::SubsequenceFilter(query, decisive).mayContain(texts.back()));
 }
 
 TEST(DecisiveLetters, AreThoseThatStandInAnotherOrderIfAllTextsHaveAll)
 {
     const std::vector<std::string_view> sample(40, "step 12 of characterisation protocol");
-    const std::string letters = search::decisiveLetters("torp noita", sample);
-    EXPECT_FALSE(search::SubsequenceFilter("torp noita", letters).mayContain(sample[0]));
-    EXPECT_FALSE(containsInOrder(letters, sample[0])) << letters;
+    const search::DecisiveLetters decisive = search::decisiveLetters("torp noita", sample);
+    EXPECT_FALSE(containsInOrder(decisive.letters, sample[0])) << decisive.letters;
+    EXPECT_TRUE(decisive.suffice);
+    EXPECT_FALSE(search::SubsequenceFilter("torp noita", decisive).mayContain(sample[0]));
 }
 
 TEST(DecisiveLetters, AreNoneWhereNearlyAllTextsHaveTheQuery)
 {
     const std::vector<std::string_view> sample(40, "Linear Sweep");
-    EXPECT_EQ(search::decisiveLetters("lsw", sample), "");
+    EXPECT_EQ(search::decisiveLetters("lsw", sample).letters, "");
 }
 
 TEST(DecisiveLetters, AreTheFirstOnesWhereThereIsNothingToLookAt)
 {
     const std::vector<std::string_view> tooShort(40, "CV");
     const std::string tooLong(200, 'x');
-    EXPECT_EQ(search::decisiveLetters("voltammetry", {}), "voltam");
-    EXPECT_EQ(search::decisiveLetters("voltammetry", tooShort), "voltam");
-    EXPECT_EQ(search::decisiveLetters("voltammetry", std::vector<std::string_view>(40, tooLong)), "voltam");
-    EXPECT_EQ(search::decisiveLetters("", tooShort), "");
+    EXPECT_EQ(search::decisiveLetters("voltammetry", {}).letters, "voltam");
+    EXPECT_EQ(search::decisiveLetters("voltammetry", tooShort).letters, "voltam");
+    EXPECT_EQ(search::decisiveLetters("voltammetry", std::vector<std::string_view>(40, tooLong)).letters, "voltam");
+    EXPECT_EQ(search::decisiveLetters("", tooShort).letters, "");
 }
 
 void expectSorted(std::vector<int> scores)

@@ -90,7 +90,7 @@ std::size_t survivors(const std::vector<Places>& texts, Letters letters)
 
 } // namespace
 
-std::string decisiveLetters(std::string_view query, std::span<const std::string_view> sample)
+DecisiveLetters decisiveLetters(std::string_view query, std::span<const std::string_view> sample)
 {
     query = query.substr(0, MostQueryLetters);
     std::vector<Places> texts;
@@ -100,11 +100,12 @@ std::string decisiveLetters(std::string_view query, std::span<const std::string_
         }
     }
     if (texts.empty()) {
-        return std::string(query.substr(0, SubsequenceFilter::MostDecisiveLetters));
+        return {std::string(query.substr(0, SubsequenceFilter::MostDecisiveLetters))};
     }
 
     const Letters all = static_cast<Letters>((std::uint64_t{1} << query.size()) - 1);
-    if (query.empty() || 2 * survivors(texts, all) > texts.size()) {
+    const std::size_t matching = survivors(texts, all);
+    if (query.empty() || 2 * matching > texts.size()) {
         return {}; // no letter is worth looking for where most texts match
     }
 
@@ -141,11 +142,12 @@ std::string decisiveLetters(std::string_view query, std::span<const std::string_
         }
     }
 
-    std::string letters;
-    for (; chosen != 0; chosen &= chosen - 1) {
-        letters += query[static_cast<std::size_t>(std::countr_zero(chosen))];
+    DecisiveLetters result;
+    for (Letters rest = chosen; rest != 0; rest &= rest - 1) {
+        result.letters += query[static_cast<std::size_t>(std::countr_zero(rest))];
     }
-    return letters;
+    result.suffice = surviving - matching <= 1;
+    return result;
 }
 
 } // namespace search

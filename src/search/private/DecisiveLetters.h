@@ -6,9 +6,17 @@
 
 namespace search {
 
-/// Those letters of \p query, a few and in their order, whose lack rejects most of \p sample that the whole query would
-/// reject. Every text that contains the query contains them. Texts of 4 to 128 bytes are looked at; if there are none,
-/// the first letters are given.
-std::string decisiveLetters(std::string_view query, std::span<const std::string_view> sample);
+/// What to look for first in a text that may or may not contain a query.
+struct DecisiveLetters
+{
+    /// A few letters of the query in their order, so that every text with the query has them.
+    std::string letters;
+    /// Whether next to no text has these and lacks the query.
+    bool suffice = false;
+};
+
+/// Those letters of \p query whose lack rejects most of \p sample that the whole query would reject. Texts of 4 to 128
+/// bytes are looked at; if there are none, the first letters are given.
+DecisiveLetters decisiveLetters(std::string_view query, std::span<const std::string_view> sample);
 
 } // namespace search

@@ -13,11 +13,12 @@ Chunk letters(char letter)
 
 } // namespace
 
-SubsequenceFilter::SubsequenceFilter(std::string_view query, std::string_view decisive)
-    : m_decisiveCount(decisive.size())
+SubsequenceFilter::SubsequenceFilter(std::string_view query, const DecisiveLetters& first)
+    : m_decisiveSuffice(first.suffice)
+    , m_decisiveCount(first.letters.size())
     , m_count(std::min(query.size(), MostLetters))
 {
-    std::transform(decisive.begin(), decisive.end(), m_decisive.begin(), letters);
+    std::transform(first.letters.begin(), first.letters.end(), m_decisive.begin(), letters);
     std::transform(query.begin(), query.begin() + static_cast<std::ptrdiff_t>(m_count), m_letters.begin(), letters);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Chunk.h"
+#include "DecisiveLetters.h"
 #include "TextPieces.h"
 
 #include <array>
@@ -18,9 +19,9 @@ public:
     static constexpr std::size_t MostDecisiveLetters = 6;
     static constexpr std::size_t MostLetters = 32; ///< Of a longer query, those behind them are not looked for.
 
-    /// \p decisive are some letters of \p query in their order: those to look for first, because they reject most.
-    /// REQUIRES: they are at most MostDecisiveLetters.
-    SubsequenceFilter(std::string_view query, std::string_view decisive);
+    /// \p first are the letters of \p query to look for first. If they suffice, the others are looked for in long texts
+    /// only. REQUIRES: they are at most MostDecisiveLetters.
+    SubsequenceFilter(std::string_view query, const DecisiveLetters& first);
 
     /// False only if \p text does not contain the query.
     bool mayContain(std::string_view text) const
@@ -31,8 +32,9 @@ public:
         if (text.size() > LongestInPieces) {
             return mayBeInLongText(text);
         }
-        return inPieces(
-            text, [this](const auto& pieces) { return hasDecisiveLetters(pieces) && follow(pieces, 0) == m_count; });
+        return inPieces(text, [this](const auto& pieces) {
+            return hasDecisiveLetters(pieces) && (m_decisiveSuffice || follow(pieces, 0) == m_count);
+        });
     }
 
 private:
@@ -64,9 +66,9 @@ private:
 
     bool mayBeInLongText(std::string_view text) const;
 
-    // Sixteen of each.
+    bool m_decisiveSuffice;
     std::size_t m_decisiveCount;
-    std::array<Chunk, MostDecisiveLetters> m_decisive;
+    std::array<Chunk, MostDecisiveLetters> m_decisive; // sixteen of each
     std::size_t m_count;
     std::array<Chunk, MostLetters> m_letters;
 };
