@@ -127,7 +127,7 @@ TEST(FindEntries, AreThoseOfRandomAndOfEmptyDocuments)
 TEST(FindIndex, RanksAsTheFuzzyFinderDoesAndListsAllWithoutAQuery)
 {
     const QList<FindEntry> entries = findEntries(*shippedSnapshot());
-    const FindIndex index(entries);
+    FindIndex index(entries);
     for (const QString& query : {u"v"_s, u"volt"_s, u"CAP cyc"_s, u"zzz"_s, u"/ A"_s, u"Ω"_s}) {
         std::vector<qsizetype> expected; // by score, of equal ones the first
         std::vector<int> scores;
@@ -146,7 +146,7 @@ TEST(FindIndex, RanksAsTheFuzzyFinderDoesAndListsAllWithoutAQuery)
     std::vector<qsizetype> all(static_cast<std::size_t>(entries.size()));
     std::iota(all.begin(), all.end(), 0);
     EXPECT_EQ(index.find({}), all);
-    const FindIndex mixed({{u"short"_s, FindKind::Graph, {}}, {QString(300, u'x'), FindKind::Graph, {}}});
+    FindIndex mixed({{u"short"_s, FindKind::Graph, {}}, {QString(300, u'x'), FindKind::Graph, {}}});
     EXPECT_EQ(mixed.find({}), (std::vector<qsizetype>{0, 1}));
     EXPECT_TRUE(FindIndex().find(u"a"_s).empty());
 }

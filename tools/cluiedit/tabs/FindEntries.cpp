@@ -3,8 +3,6 @@
 #include <base/DocumentKeys.h>
 #include <base/JsonPointer.h>
 #include <cluiedit/reading/Catalogue.h>
-#include <search/FuzzyFinder.h>
-#include <search/TechniqueSearchStrategy.h>
 
 #include <QCoreApplication>
 #include <QHash>
@@ -13,8 +11,8 @@
 
 #include <algorithm>
 #include <array>
-#include <memory>
 #include <numeric>
+#include <string>
 
 using namespace Qt::StringLiterals;
 namespace keys = uiconfig::keys;
@@ -127,6 +125,16 @@ struct Collector
     QList<FindEntry> entries{};
 };
 
+/// Of equally good ones the finder takes the later one first.
+std::vector<std::string> textsFromTheLast(const QList<FindEntry>& entries)
+{
+    std::vector<std::string> texts;
+    texts.reserve(static_cast<std::size_t>(entries.size()));
+    std::for_each(entries.rbegin(), entries.rend(),
+                  [&texts](const FindEntry& entry) { texts.push_back(entry.text.toStdString()); });
+    return texts;
+}
+
 char16_t folded(QChar sign)
 {
     return sign >= u'A' && sign <= u'Z' ? static_cast<char16_t>(sign.unicode() + ('a' - 'A')) : sign.unicode();
@@ -185,25 +193,20 @@ QList<FindEntry> findEntries(const Snapshot& snapshot)
 }
 
 FindIndex::FindIndex(const QList<FindEntry>& entries)
+    : m_count(entries.size())
+    , m_search(textsFromTheLast(entries), NarrowingSearch::Strategy::Technique)
 {
-    m_candidates.reserve(static_cast<std::size_t>(entries.size()));
-    // Of equally good ones the finder takes the later one first.
-    std::for_each(entries.rbegin(), entries.rend(),
-                  [this](const FindEntry& entry) { m_candidates.push_back(entry.text.toStdString()); });
 }
 
-std::vector<qsizetype> FindIndex::find(const QString& query) const
+std::vector<qsizetype> FindIndex::find(const QString& query)
 {
-    std::vector<qsizetype> numbers(query.isEmpty() ? m_candidates.size() : 0);
+    std::vector<qsizetype> numbers(query.isEmpty() ? static_cast<std::size_t>(m_count) : 0);
     if (query.isEmpty()) {
         std::iota(numbers.begin(), numbers.end(), 0);
         return numbers;
     }
-    const std::vector<std::size_t> found =
-        FuzzyFinder::search(query.toStdString(), m_candidates, -1, std::make_unique<TechniqueSearchStrategy>());
-    numbers.reserve(found.size());
-    for (const std::size_t candidate : found) {
-        numbers.push_back(static_cast<qsizetype>(m_candidates.size() - 1 - candidate));
+    for (const std::size_t found : m_search.search(query.toStdString())) {
+        numbers.push_back(m_count - 1 - static_cast<qsizetype>(found));
     }
     return numbers;
 }

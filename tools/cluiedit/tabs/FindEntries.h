@@ -1,11 +1,11 @@
 #pragma once
 
 #include <cluiedit/reading/Snapshot.h>
+#include <search/NarrowingSearch.h>
 
 #include <QList>
 #include <QString>
 
-#include <string>
 #include <vector>
 
 /// \file FindEntries.h
@@ -31,19 +31,19 @@ struct FindEntry
 /// REQUIRES: \p snapshot loads.
 QList<FindEntry> findEntries(const Snapshot& snapshot);
 
-/// Entries as the fuzzy finder takes them.
+/// Entries as the fuzzy finder takes them, for a query that is typed.
 class FindIndex
 {
 public:
-    FindIndex() = default;
-    explicit FindIndex(const QList<FindEntry>& entries);
+    explicit FindIndex(const QList<FindEntry>& entries = {});
 
     /// The numbers of the entries that match \p query, best first; all in their order without a query. Among equally
     /// good ones the earlier comes first.
-    std::vector<qsizetype> find(const QString& query) const;
+    std::vector<qsizetype> find(const QString& query);
 
 private:
-    std::vector<std::string> m_candidates; // from the last entry to the first
+    qsizetype m_count;
+    NarrowingSearch m_search; // from the last entry to the first
 };
 
 /// The places in \p text of the letters of \p query, for which it was found: those of the query as a whole where it
