@@ -37,6 +37,9 @@ struct Places
     /// What \p letters cost in this text; nothing if they are not in it in their order.
     std::size_t cost(Letters letters) const
     {
+        if (letters == 0) {
+            return 2 * TextCost;
+        }
         PositionSet<2> last = PositionSet<2>::none();
         PositionSet<2> rest = PositionSet<2>::all();
         for (; letters != 0; letters &= letters - 1) {
@@ -88,6 +91,39 @@ std::size_t survivors(const std::vector<Places>& texts, Letters letters)
         texts.begin(), texts.end(), [letters](const Places& places) { return places.cost(letters) != 0; }));
 }
 
+/// One letter of \p count after the other, each the one that brings most beside those before.
+Letters chosenLetters(std::vector<Places> texts, std::size_t count)
+{
+    Letters chosen = 0;
+    for (std::size_t i = 0; i < std::min(count, SubsequenceFilter::MostDecisiveLetters) && !texts.empty(); ++i) {
+        Letters best = 0;
+        std::size_t leastCost = 0;
+        for (std::size_t letter = 0; letter < count; ++letter) {
+            const Letters candidate = chosen | Letters{1} << letter;
+            const std::size_t candidateCost = candidate == chosen ? 0 : cost(texts, candidate);
+            if (candidate != chosen && (best == 0 || candidateCost < leastCost)) {
+                best = candidate;
+                leastCost = candidateCost;
+            }
+        }
+        chosen = best;
+        std::erase_if(texts, [chosen](const Places& places) { return places.cost(chosen) == 0; });
+    }
+    return chosen;
+}
+
+/// \p chosen without those letters that turn out to bring little beside the others.
+Letters usefulLetters(const std::vector<Places>& texts, Letters chosen)
+{
+    for (Letters rest = chosen; rest != 0; rest &= rest - 1) {
+        const Letters without = chosen & ~(rest & (0 - rest));
+        if (WorthIt * (survivors(texts, without) - survivors(texts, chosen)) <= texts.size()) {
+            chosen = without;
+        }
+    }
+    return chosen;
+}
+
 } // namespace
 
 DecisiveLetters decisiveLetters(std::string_view query, std::span<const std::string_view> sample)
@@ -103,50 +139,18 @@ DecisiveLetters decisiveLetters(std::string_view query, std::span<const std::str
         return {std::string(query.substr(0, SubsequenceFilter::MostDecisiveLetters))};
     }
 
-    const Letters all = static_cast<Letters>((std::uint64_t{1} << query.size()) - 1);
+    const auto all = static_cast<Letters>((std::uint64_t{1} << query.size()) - 1);
     const std::size_t matching = survivors(texts, all);
-    if (query.empty() || 2 * matching > texts.size()) {
+    if (2 * matching > texts.size()) {
         return {}; // no letter is worth looking for where most texts match
     }
 
-    // One letter after the other is added, the one that brings most.
-    Letters chosen = 0;
-    std::vector<Places> left = texts;
-    for (std::size_t count = 0; count < std::min(query.size(), SubsequenceFilter::MostDecisiveLetters) && !left.empty();
-         ++count) {
-        Letters best = 0;
-        std::size_t leastCost = 0;
-        for (std::size_t i = 0; i < query.size(); ++i) {
-            const Letters candidate = chosen | Letters{1} << i;
-            if (candidate == chosen) {
-                continue;
-            }
-            const std::size_t candidateCost = cost(left, candidate);
-            if (best == 0 || candidateCost < leastCost) {
-                best = candidate;
-                leastCost = candidateCost;
-            }
-        }
-        chosen = best;
-        std::erase_if(left, [chosen](const Places& places) { return places.cost(chosen) == 0; });
-    }
-
-    // Those that turn out to bring little beside the others are dropped.
-    std::size_t surviving = left.size();
-    for (Letters rest = chosen; rest != 0; rest &= rest - 1) {
-        const Letters without = chosen & ~(rest & (0 - rest));
-        const std::size_t survivingWithout = without == 0 ? texts.size() : survivors(texts, without);
-        if (WorthIt * (survivingWithout - surviving) <= texts.size()) {
-            chosen = without;
-            surviving = survivingWithout;
-        }
-    }
-
+    const Letters decisive = usefulLetters(texts, chosenLetters(texts, query.size()));
     DecisiveLetters result;
-    for (Letters rest = chosen; rest != 0; rest &= rest - 1) {
+    for (Letters rest = decisive; rest != 0; rest &= rest - 1) {
         result.letters += query[static_cast<std::size_t>(std::countr_zero(rest))];
     }
-    result.suffice = surviving - matching <= 1;
+    result.suffice = survivors(texts, decisive) - matching <= 1;
     return result;
 }
 
