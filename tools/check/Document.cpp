@@ -318,7 +318,7 @@ QString Document::pointerTo(quint32 index) const
         return m_lastPointer.second;
     }
     const QString step = stepTo(index);
-    const QString pointer = pointerTo(m_nodes[index].parent) + step;
+    QString pointer = pointerTo(m_nodes[index].parent) + step;
     if (step.size() > LongStep) {
         m_lastPointer = {index, pointer};
     }

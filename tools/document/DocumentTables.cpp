@@ -258,7 +258,7 @@ Table debug(const Configuration& configuration)
 
 struct TableMaker
 {
-    Table (*make)(const Configuration&);
+    Table (*make)(const Configuration&) = nullptr;
     bool needsAxes = false; ///< Whether the axes combinations are asked.
 };
 

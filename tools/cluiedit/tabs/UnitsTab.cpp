@@ -13,7 +13,6 @@
 
 using namespace Qt::StringLiterals;
 using cl::datastorage::Converter;
-using cl::datastorage::PhysicalParameter;
 
 namespace cluiedit {
 
