@@ -4,7 +4,7 @@
 usage: tidy.py SOURCE_DIR BUILD_DIR [--share I/N] [FOLDER...]
 
 With folders of the source tree, over the sources below them; without, over all. With a share, over the I-th of N parts
-of them, counted from 0.
+of them, counted from 0. A source that several programs are made of is looked at as one of them compiles it.
 
 A source whose text, headers, compiler options and checks are those of its last clean run is not looked at again, so
 that a second run takes a second. Needs a Ninja build that has been built: Ninja knows which headers a source includes.
@@ -68,15 +68,16 @@ def main():
     common.update(subprocess.run(["clang-tidy", "--version"], capture_output=True, check=True).stdout)
 
     depends = dependencies(build_dir)
-    commands, todo = [], []
+    commands, todo, known = [], [], set()
     for entry in json.loads((build_dir / "compile_commands.json").read_text()):
         source = pathlib.Path(entry["file"])
         if not source.is_relative_to(source_dir) or source.is_relative_to(build_dir) or source.suffix != ".cpp":
             continue
         if folders and not any(source.is_relative_to(source_dir / folder) for folder in folders):
             continue
-        if not is_in_share(source.relative_to(source_dir), options.share):
+        if source in known or not is_in_share(source.relative_to(source_dir), options.share):
             continue
+        known.add(source)
         arguments = for_clang(shlex.split(entry["command"]))
         # Headers that come through a precompiled one need not be listed with the object: they are the system's.
         commands.append({"directory": entry["directory"], "file": entry["file"], "arguments": arguments})
