@@ -9,7 +9,7 @@ A ratio is that of two measurements that took turns, so that it can be compared 
 import json
 import sys
 
-KINDS = ["few match, by a rare letter", "few match, by order", "some match", "most match"]
+KINDS = ["few, by a rare letter", "few, by order", "some", "most"]
 TARGETS = {0: 0.7, 1: 0.7, 3: 3.0}
 
 
@@ -23,8 +23,8 @@ def main(path):
         what, names, query = result["name"].removesuffix("/manual_time").split("|")
         results[what, names, query] = result
 
-    row = "| {:<10} | {:<34} | {:<28} | {:>5} | {:>6} | {:>9} | {:>8} |".format
-    print(row("names", "query", "kind", "match", "target", "technique", "text"))
+    row = "| {:<10} | {:<34} | {:<21} | {:>5} | {:>6} | {:>9} | {:>8} |".format
+    print(row("names", "query", "which match", "match", "target", "technique", "text"))
     print(row("", "", "", "", "", "", "").replace(" ", "-"))
     for (what, names, query), technique in results.items():
         if what == "technique":
