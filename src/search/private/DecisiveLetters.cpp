@@ -31,7 +31,7 @@ constexpr std::size_t TextCost = 64;
 /// Where the letters of the query are in one text.
 struct Places
 {
-    std::array<PositionSet<2>, MostQueryLetters> of;
+    std::array<PositionSet<2>, MostQueryLetters> of{};
     std::size_t length = 0; // how many positions there may be
 
     /// What \p letters cost in this text; nothing if they are not in it in their order.

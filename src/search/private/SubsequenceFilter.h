@@ -68,9 +68,9 @@ private:
 
     bool m_decisiveSuffice;
     std::size_t m_decisiveCount;
-    std::array<Chunk, MostDecisiveLetters> m_decisive; // sixteen of each
+    std::array<Chunk, MostDecisiveLetters> m_decisive{}; // sixteen of each
     std::size_t m_count;
-    std::array<Chunk, MostLetters> m_letters;
+    std::array<Chunk, MostLetters> m_letters{};
 };
 
 } // namespace search

@@ -21,7 +21,7 @@ public:
     /// The first refusal at a place.
     struct Refused
     {
-        qsizetype index; ///< among all refusals
+        qsizetype index = 0; ///< among all refusals
         bool isExplained = false;
     };
 
