@@ -31,6 +31,7 @@ void compare(const std::string& query, const std::vector<std::string>& candidate
 {
     const std::vector<std::string_view> views(candidates.begin(), candidates.end());
     std::vector<Score> literalScores;
+    literalScores.reserve(candidates.size());
     for (const std::string& candidate : candidates) {
         literalScores.push_back(literalScore(query, candidate));
     }

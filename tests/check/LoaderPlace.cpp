@@ -6,7 +6,9 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <initializer_list>
 #include <iterator>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -58,7 +60,7 @@ QString axesPlace(const QString& message, const QJsonObject& document)
     if (const auto match = unknown.match(message); match.hasMatch()) {
         return referencePlace(document, match.captured(1), match.captured(2), match.captured(3));
     }
-    const QString entry = u"/Axes combinations/%1"_s.arg(refusedAxesCombination(document));
+    QString entry = u"/Axes combinations/%1"_s.arg(refusedAxesCombination(document));
     if (message == "Axes combination is not Json object"_L1) {
         return entry;
     }
@@ -126,7 +128,7 @@ QString summaryPlace(const QJsonObject& document)
 /// A regular expression for the pointer.
 QString expectedPlace(const QString& message, const QJsonObject& document)
 {
-    const std::pair<QString, QString> sections[] = {
+    const std::initializer_list<std::pair<QString, QString>> sections = {
         {u"Axes combinations array missing"_s, u"/Axes combinations"_s},
         {u"Representations array missing"_s, u"/Representations"_s},
         {u"Multi units combinations array missing"_s, u"/MSVUnits"_s},

@@ -288,9 +288,10 @@ std::vector<std::size_t> ranking(const std::vector<std::optional<int>>& scores)
     }
     std::vector<std::size_t> indices;
     indices.reserve(byScore.size());
-    for (auto it = byScore.rbegin(); it != byScore.rend(); ++it) {
-        indices.push_back(it->second);
+    for (const auto& [score, index] : byScore) {
+        indices.push_back(index);
     }
+    std::reverse(indices.begin(), indices.end());
     return indices;
 }
 

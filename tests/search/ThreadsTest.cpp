@@ -28,10 +28,10 @@ protected:
         GeneratedTexts texts(1);
         const std::string common = texts.query(8);
         for (int i = 0; i < 3000; ++i) {
-            m_candidates.push_back(texts.candidate(common));
+            candidates.push_back(texts.candidate(common));
         }
         for (std::size_t length = 0; length <= common.size(); ++length) {
-            m_queries.push_back(common.substr(0, length));
+            queries.push_back(common.substr(0, length));
         }
     }
 
@@ -40,7 +40,7 @@ protected:
     void expectSameInEveryThread(Rank rank)
     {
         std::vector<Ranking> alone;
-        for (const std::string& query : m_queries) {
+        for (const std::string& query : queries) {
             alone.push_back(rank(query));
             EXPECT_TRUE(query.empty() || !alone.back().empty()) << query;
         }
@@ -51,7 +51,7 @@ protected:
         for (std::vector<Ranking>& mine : found) {
             threads.emplace_back([&] {
                 allStarted.arrive_and_wait(); // or the first would be done before the last begins
-                for (const std::string& query : m_queries) {
+                for (const std::string& query : queries) {
                     mine.push_back(rank(query));
                 }
             });
@@ -64,26 +64,26 @@ protected:
         }
     }
 
-    std::vector<std::string> m_candidates;
-    std::vector<std::string> m_queries;
+    std::vector<std::string> candidates;
+    std::vector<std::string> queries;
 };
 
 TEST_F(ThreadedSearch, FinderGivesEveryThreadTheSameResults)
 {
     expectSameInEveryThread([this](const std::string& query) {
-        return FuzzyFinder::search(query, m_candidates, 100, std::make_unique<FtsStrategy>());
+        return FuzzyFinder::search(query, candidates, 100, std::make_unique<FtsStrategy>());
     });
     expectSameInEveryThread([this](const std::string& query) {
-        return FuzzyFinder::search(query, m_candidates, 100, std::make_unique<TechniqueSearchStrategy>());
+        return FuzzyFinder::search(query, candidates, 100, std::make_unique<TechniqueSearchStrategy>());
     });
 }
 
 TEST_F(ThreadedSearch, OneStrategyServesAllThreads)
 {
     const FtsStrategy text;
-    expectSameInEveryThread([&](const std::string& query) { return text.applyAlgorithm(query, m_candidates); });
+    expectSameInEveryThread([&](const std::string& query) { return text.applyAlgorithm(query, candidates); });
     const TechniqueSearchStrategy technique;
-    expectSameInEveryThread([&](const std::string& query) { return technique.applyAlgorithm(query, m_candidates); });
+    expectSameInEveryThread([&](const std::string& query) { return technique.applyAlgorithm(query, candidates); });
 }
 
 } // namespace

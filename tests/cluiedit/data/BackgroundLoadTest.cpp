@@ -42,15 +42,15 @@ protected:
 
     bool waitForEnd()
     {
-        return QTest::qWaitFor([this] { return m_finished.count() > 0; }, 60000);
+        return QTest::qWaitFor([this] { return finished.count() > 0; }, 60000);
     }
 
     QTemporaryDir m_directory;
     BackgroundLoad m_load{catalogue()};
-    QSignalSpy m_loaded{&m_load, &BackgroundLoad::loaded};
-    QSignalSpy m_failed{&m_load, &BackgroundLoad::failed};
-    QSignalSpy m_finished{&m_load, &BackgroundLoad::finished};
-    QSignalSpy m_progress{&m_load, &BackgroundLoad::progress};
+    QSignalSpy loaded{&m_load, &BackgroundLoad::loaded};
+    QSignalSpy failed{&m_load, &BackgroundLoad::failed};
+    QSignalSpy finished{&m_load, &BackgroundLoad::finished};
+    QSignalSpy progress{&m_load, &BackgroundLoad::progress};
 };
 
 constexpr int ManyRows = 3000000;
@@ -67,17 +67,17 @@ TEST_F(BackgroundLoadTest, SeveralFilesAreLoadedInTheirOrderAndBadOnesFail)
     EXPECT_EQ(m_load.waiting(), 2);
     ASSERT_TRUE(waitForEnd());
 
-    ASSERT_EQ(m_loaded.count(), 2);
-    const auto first = m_loaded.at(0).at(0).value<std::shared_ptr<const Measurement>>();
-    const auto second = m_loaded.at(1).at(0).value<std::shared_ptr<const Measurement>>();
+    ASSERT_EQ(loaded.count(), 2);
+    const auto first = loaded.at(0).at(0).value<std::shared_ptr<const Measurement>>();
+    const auto second = loaded.at(1).at(0).value<std::shared_ptr<const Measurement>>();
     EXPECT_EQ(first->name(), u"a.csv");
     EXPECT_EQ(second->name(), u"b.csv");
     EXPECT_EQ(second->values({u"Voltage / V"_s, u"Potentiostat"_s})->size(), 20);
-    EXPECT_EQ(m_loaded.at(0).at(1).toStringList(), QStringList(u"own_column"_s));
-    ASSERT_EQ(m_failed.count(), 1);
-    EXPECT_EQ(m_failed.at(0).at(0).toString(), missing);
-    EXPECT_FALSE(m_failed.at(0).at(1).toString().isEmpty());
-    EXPECT_EQ(m_finished.count(), 1);
+    EXPECT_EQ(loaded.at(0).at(1).toStringList(), QStringList(u"own_column"_s));
+    ASSERT_EQ(failed.count(), 1);
+    EXPECT_EQ(failed.at(0).at(0).toString(), missing);
+    EXPECT_FALSE(failed.at(0).at(1).toString().isEmpty());
+    EXPECT_EQ(finished.count(), 1);
     EXPECT_TRUE(isInThisThread);
     EXPECT_FALSE(m_load.isLoading());
 }
@@ -87,12 +87,12 @@ TEST_F(BackgroundLoadTest, ProgressGrows)
     m_load.load({write(u"a.csv"_s, ManyRows)});
     ASSERT_TRUE(waitForEnd());
     double before = 0;
-    for (const QList<QVariant>& report : m_progress) {
+    for (const QList<QVariant>& report : progress) {
         EXPECT_GE(report.at(1).toDouble(), before);
         before = report.at(1).toDouble();
         EXPECT_LE(before, 1);
     }
-    EXPECT_GE(m_progress.count(), 2);
+    EXPECT_GE(progress.count(), 2);
 }
 
 TEST_F(BackgroundLoadTest, NothingComesAfterACancellation)
@@ -101,8 +101,8 @@ TEST_F(BackgroundLoadTest, NothingComesAfterACancellation)
     m_load.cancel();
     ASSERT_TRUE(waitForEnd());
     QTest::qWait(50);
-    EXPECT_EQ(m_loaded.count() + m_failed.count(), 0);
-    EXPECT_EQ(m_finished.count(), 1);
+    EXPECT_EQ(loaded.count() + failed.count(), 0);
+    EXPECT_EQ(finished.count(), 1);
 }
 
 TEST_F(BackgroundLoadTest, WhatIsWantedAfterACancellationIsLoaded)
@@ -112,8 +112,8 @@ TEST_F(BackgroundLoadTest, WhatIsWantedAfterACancellationIsLoaded)
     m_load.cancel();
     m_load.load({small});
     ASSERT_TRUE(waitForEnd());
-    ASSERT_EQ(m_loaded.count(), 1);
-    EXPECT_EQ(m_loaded.at(0).at(0).value<std::shared_ptr<const Measurement>>()->name(), u"b.csv");
+    ASSERT_EQ(loaded.count(), 1);
+    EXPECT_EQ(loaded.at(0).at(0).value<std::shared_ptr<const Measurement>>()->name(), u"b.csv");
 }
 
 TEST_F(BackgroundLoadTest, CancellingNothingDoesNothing)
@@ -121,7 +121,7 @@ TEST_F(BackgroundLoadTest, CancellingNothingDoesNothing)
     m_load.cancel();
     m_load.load({});
     QTest::qWait(20);
-    EXPECT_EQ(m_finished.count(), 0);
+    EXPECT_EQ(finished.count(), 0);
     EXPECT_FALSE(m_load.isLoading());
 }
 
@@ -156,7 +156,7 @@ TEST_F(BackgroundLoadTest, TheBarShowsWhatIsReadAndCancels)
     QTest::keyClick(cancel, Qt::Key_Space);
     ASSERT_TRUE(waitForEnd());
     EXPECT_FALSE(bar.isVisible());
-    EXPECT_EQ(m_loaded.count(), 0);
+    EXPECT_EQ(loaded.count(), 0);
 }
 
 TEST_F(BackgroundLoadTest, ALongNameDoesNotWidenTheBar)

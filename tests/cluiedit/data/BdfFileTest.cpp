@@ -41,7 +41,7 @@ class BdfFileTest : public testing::Test
 protected:
     QString write(const QByteArray& text)
     {
-        QFile file(m_directory.filePath(u"cell.bdf.csv"_s));
+        QFile file(directory.filePath(u"cell.bdf.csv"_s));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         EXPECT_EQ(file.write(text), text.size());
         return file.fileName();
@@ -66,7 +66,7 @@ protected:
         return found == nullptr ? std::vector<double>() : *found;
     }
 
-    QTemporaryDir m_directory;
+    QTemporaryDir directory;
 };
 
 TEST_F(BdfFileTest, MachineNamesAndNamesAreRead)
@@ -171,8 +171,8 @@ TEST_F(BdfFileTest, WhatIsNoFileOfTextIsAnError)
         EXPECT_EQ(errorOf(empty), "cell.bdf.csv is empty: it has no line of headers.");
     }
     EXPECT_EQ(errorOf(QByteArray("voltage_volt\n1\n\0\n", 17)), "cell.bdf.csv is not a text in UTF-8.");
-    EXPECT_THAT(readBdf(m_directory.path(), catalogue()).error.toStdString(), HasSubstr("is a directory"));
-    EXPECT_THAT(readBdf(m_directory.filePath(u"none"_s), catalogue()).error.toStdString(), HasSubstr("none cannot be"));
+    EXPECT_THAT(readBdf(directory.path(), catalogue()).error.toStdString(), HasSubstr("is a directory"));
+    EXPECT_THAT(readBdf(directory.filePath(u"none"_s), catalogue()).error.toStdString(), HasSubstr("none cannot be"));
     if (QFile::exists(u"/dev/zero"_s)) {
         EXPECT_EQ(readBdf(u"/dev/zero"_s, catalogue()).error, u"zero is not an ordinary file.");
     }

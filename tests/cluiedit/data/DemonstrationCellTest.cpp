@@ -31,10 +31,10 @@ class DemonstrationCellTest : public testing::Test
 protected:
     const Values& get(const QString& category, const QString& name) const
     {
-        const Values* found = m_cell.values({name, category});
+        const Values* found = whole.values({name, category});
         EXPECT_NE(found, nullptr) << name.toStdString();
-        static const Values None;
-        return found == nullptr ? None : *found;
+        static const Values none;
+        return found == nullptr ? none : *found;
     }
     const Values& row(const QString& name) const { return get(u"Potentiostat"_s, name); }
     const Values& step(const QString& name) const { return get(u"Step"_s, name); }
@@ -79,7 +79,7 @@ protected:
         return sum / (time[group.second - 1] - time[group.first]);
     }
 
-    Measurement m_cell = demonstrationCell(catalogue());
+    Measurement whole = demonstrationCell(catalogue());
 };
 
 TEST_F(DemonstrationCellTest, EveryArrayOfTheCatalogueIsThereAndFinite)

@@ -176,7 +176,7 @@ TEST(ColorVision, MeasuresDifferencesByTheFormula)
 {
     Random random(9);
     const auto colour = [&random](bool isGreyish) {
-        const int widest = isGreyish ? 5 : 120;
+        const qsizetype widest = isGreyish ? 5 : 120;
         return Lab{random.below(10'001) / 100.0, static_cast<double>(random.below(2 * widest) - widest),
                    static_cast<double>(random.below(2 * widest) - widest)};
     };

@@ -17,7 +17,6 @@ using namespace cluiedit;
 using cluiconfig::check::checkText;
 using cluiconfig::check::Result;
 using testing::Contains;
-using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;

@@ -261,7 +261,7 @@ TEST_F(EditorTest, OneKeyMendsWhatIsMeant)
 
 TEST_F(EditorTest, MendingAgainGoesToTheNextOfTheLine)
 {
-    editor.open("{ \"aa\": 1, \"bb\": 2 }");
+    editor.open(R"({ "aa": 1, "bb": 2 })");
     editor.showFindings(
         {findingAt(2, Severity::Warning, u"a"_s, u"A \"1\""_s), findingAt(11, Severity::Warning, u"b"_s, u"B"_s)});
     editor.goTo(9);
@@ -273,7 +273,7 @@ TEST_F(EditorTest, MendingAgainGoesToTheNextOfTheLine)
 
 TEST_F(EditorTest, CompletesWhileOneTypes)
 {
-    openAt("{ \"MSVUnits\": [{ \"Operator\": | }] }");
+    openAt(R"({ "MSVUnits": [{ "Operator": | }] })");
     type(u"\"di"_s);
     ASSERT_TRUE(popup().isVisible());
     EXPECT_EQ(popup().topLevelItem(0)->text(0), u"Divide"_s);
@@ -287,7 +287,7 @@ TEST_F(EditorTest, CompletesWhileOneTypes)
 
 TEST_F(EditorTest, CompletionTakesWordsWithBlanksAndSlashes)
 {
-    openAt("{ \"Representations\": [{ \"X\": |, \"Y1\": \"Voltage / V\" }] }");
+    openAt(R"({ "Representations": [{ "X": |, "Y1": "Voltage / V" }] })");
     type(u"\"time / s te"_s);
     ASSERT_TRUE(popup().isVisible());
     EXPECT_TRUE(popup().topLevelItem(0)->text(0).contains("Time / s"_L1));
@@ -301,7 +301,7 @@ TEST_F(EditorTest, CompletionTakesWordsWithBlanksAndSlashes)
 
 TEST_F(EditorTest, EscapeAndTheClosingQuoteEndTheCompletion)
 {
-    openAt("{ \"MSVUnits\": [{ \"Operator\": | }] }");
+    openAt(R"({ "MSVUnits": [{ "Operator": | }] })");
     type(u"\""_s);
     ASSERT_TRUE(popup().isVisible());
     press(Qt::Key_Escape);
@@ -315,7 +315,7 @@ TEST_F(EditorTest, EscapeAndTheClosingQuoteEndTheCompletion)
 
 TEST_F(EditorTest, AskedForCompletionShowsTheOthersOfACompleteWord)
 {
-    openAt("{ \"MSVUnits\": [{ \"Operator\": \"Divide|\" }] }");
+    openAt(R"({ "MSVUnits": [{ "Operator": "Divide|" }] })");
     press(Qt::Key_Space, Qt::ControlModifier);
     ASSERT_TRUE(popup().isVisible());
     EXPECT_EQ(popup().topLevelItemCount(), 3);
@@ -332,7 +332,7 @@ TEST_F(EditorTest, AskedForCompletionShowsTheOthersOfACompleteWord)
 
 TEST_F(EditorTest, AClickChoosesACandidate)
 {
-    openAt("{ \"MSVUnits\": [{ \"Operator\": | }] }");
+    openAt(R"({ "MSVUnits": [{ "Operator": | }] })");
     type(u"\""_s);
     ASSERT_TRUE(popup().isVisible());
     const QRect row = popup().visualItemRect(popup().topLevelItem(1));

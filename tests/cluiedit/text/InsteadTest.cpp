@@ -53,7 +53,7 @@ TEST(Instead, WhatIsMeantIsKnownWhereAMessageAsksForIt)
     for (const Mistake& mistake : mistakes()) {
         for (const Finding& finding : checkText(mistake.text, u"UIConfig.json"_s).findings) {
             const bool asks =
-                finding.message.contains("Did you mean \""_L1) && !finding.message.contains("\" or \""_L1);
+                finding.message.contains(R"(Did you mean ")"_L1) && !finding.message.contains(R"(" or ")"_L1);
             if (asks && finding.instead.isEmpty()) {
                 // It is a key, and its object has the one that is meant already.
                 const JsonPlace place = placeAt(mistake.text, finding.offset);
@@ -94,10 +94,10 @@ TEST(Instead, AKeyThatIsThereAlreadyIsNotMeant)
 {
     const QByteArray shipped = shippedBytes(u"UIConfig.json"_s);
     QByteArray text = shipped;
-    text.replace("\"Default colors\": {", "\"Default colors\": { \"Curve 1\": \"Blue\",");
+    text.replace("\"Default colors\": {", R"("Default colors": { "Curve 1": "Blue",)");
     const QList<Finding> findings = checkText(text, u"UIConfig.json"_s).findings;
     const auto found = std::ranges::find_if(
-        findings, [](const Finding& each) { return each.message.startsWith("\"Curve 1\" means nothing"_L1); });
+        findings, [](const Finding& each) { return each.message.startsWith(R"("Curve 1" means nothing)"_L1); });
     ASSERT_NE(found, findings.end());
     EXPECT_TRUE(found->message.contains("Did you mean \"Curve 01\"?"_L1)) << found->message.toStdString();
     EXPECT_EQ(found->instead, QString());

@@ -15,7 +15,6 @@
 using namespace Qt::StringLiterals;
 using namespace cluiedit;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 
