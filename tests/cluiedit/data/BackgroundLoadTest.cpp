@@ -33,7 +33,7 @@ class BackgroundLoadTest : public testing::Test
 protected:
     QString write(const QString& name, int rows)
     {
-        QFile file(m_directory.filePath(name));
+        QFile file(directory.filePath(name));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write("voltage_volt,own_column\n");
         file.write(QByteArray("3.5,1\n").repeated(rows));
@@ -45,12 +45,12 @@ protected:
         return QTest::qWaitFor([this] { return finished.count() > 0; }, 60000);
     }
 
-    QTemporaryDir m_directory;
-    BackgroundLoad m_load{catalogue()};
-    QSignalSpy loaded{&m_load, &BackgroundLoad::loaded};
-    QSignalSpy failed{&m_load, &BackgroundLoad::failed};
-    QSignalSpy finished{&m_load, &BackgroundLoad::finished};
-    QSignalSpy progress{&m_load, &BackgroundLoad::progress};
+    QTemporaryDir directory;
+    BackgroundLoad background{catalogue()};
+    QSignalSpy loaded{&background, &BackgroundLoad::loaded};
+    QSignalSpy failed{&background, &BackgroundLoad::failed};
+    QSignalSpy finished{&background, &BackgroundLoad::finished};
+    QSignalSpy progress{&background, &BackgroundLoad::progress};
 };
 
 constexpr int ManyRows = 3000000;
@@ -59,12 +59,12 @@ TEST_F(BackgroundLoadTest, SeveralFilesAreLoadedInTheirOrderAndBadOnesFail)
 {
     bool isInThisThread = true;
     const auto thisThread = std::this_thread::get_id();
-    QObject::connect(&m_load, &BackgroundLoad::loaded, &m_load,
+    QObject::connect(&background, &BackgroundLoad::loaded, &background,
                      [&] { isInThisThread = isInThisThread && std::this_thread::get_id() == thisThread; });
-    const QString missing = m_directory.filePath(u"missing.csv"_s);
-    m_load.load({write(u"a.csv"_s, 10), missing, write(u"b.csv"_s, 20)});
-    EXPECT_TRUE(m_load.isLoading());
-    EXPECT_EQ(m_load.waiting(), 2);
+    const QString missing = directory.filePath(u"missing.csv"_s);
+    background.load({write(u"a.csv"_s, 10), missing, write(u"b.csv"_s, 20)});
+    EXPECT_TRUE(background.isLoading());
+    EXPECT_EQ(background.waiting(), 2);
     ASSERT_TRUE(waitForEnd());
 
     ASSERT_EQ(loaded.count(), 2);
@@ -79,12 +79,12 @@ TEST_F(BackgroundLoadTest, SeveralFilesAreLoadedInTheirOrderAndBadOnesFail)
     EXPECT_FALSE(failed.at(0).at(1).toString().isEmpty());
     EXPECT_EQ(finished.count(), 1);
     EXPECT_TRUE(isInThisThread);
-    EXPECT_FALSE(m_load.isLoading());
+    EXPECT_FALSE(background.isLoading());
 }
 
 TEST_F(BackgroundLoadTest, ProgressGrows)
 {
-    m_load.load({write(u"a.csv"_s, ManyRows)});
+    background.load({write(u"a.csv"_s, ManyRows)});
     ASSERT_TRUE(waitForEnd());
     double before = 0;
     for (const QList<QVariant>& report : progress) {
@@ -97,8 +97,8 @@ TEST_F(BackgroundLoadTest, ProgressGrows)
 
 TEST_F(BackgroundLoadTest, NothingComesAfterACancellation)
 {
-    m_load.load({write(u"a.csv"_s, ManyRows), write(u"b.csv"_s, 10)});
-    m_load.cancel();
+    background.load({write(u"a.csv"_s, ManyRows), write(u"b.csv"_s, 10)});
+    background.cancel();
     ASSERT_TRUE(waitForEnd());
     QTest::qWait(50);
     EXPECT_EQ(loaded.count() + failed.count(), 0);
@@ -108,9 +108,9 @@ TEST_F(BackgroundLoadTest, NothingComesAfterACancellation)
 TEST_F(BackgroundLoadTest, WhatIsWantedAfterACancellationIsLoaded)
 {
     const QString small = write(u"b.csv"_s, 10);
-    m_load.load({write(u"a.csv"_s, ManyRows)});
-    m_load.cancel();
-    m_load.load({small});
+    background.load({write(u"a.csv"_s, ManyRows)});
+    background.cancel();
+    background.load({small});
     ASSERT_TRUE(waitForEnd());
     ASSERT_EQ(loaded.count(), 1);
     EXPECT_EQ(loaded.at(0).at(0).value<std::shared_ptr<const Measurement>>()->name(), u"b.csv");
@@ -118,11 +118,11 @@ TEST_F(BackgroundLoadTest, WhatIsWantedAfterACancellationIsLoaded)
 
 TEST_F(BackgroundLoadTest, CancellingNothingDoesNothing)
 {
-    m_load.cancel();
-    m_load.load({});
+    background.cancel();
+    background.load({});
     QTest::qWait(20);
     EXPECT_EQ(finished.count(), 0);
-    EXPECT_FALSE(m_load.isLoading());
+    EXPECT_FALSE(background.isLoading());
 }
 
 TEST_F(BackgroundLoadTest, ItIsDestroyedPromptlyWhileItLoads)
@@ -142,12 +142,12 @@ TEST_F(BackgroundLoadTest, ItIsDestroyedPromptlyWhileItLoads)
 TEST_F(BackgroundLoadTest, TheBarShowsWhatIsReadAndCancels)
 {
     QWidget window;
-    LoadingBar bar(m_load, &window);
+    LoadingBar bar(background, &window);
     bar.resize(600, 30);
     window.show();
     EXPECT_FALSE(bar.isVisible());
 
-    m_load.load({write(u"a.csv"_s, ManyRows), write(u"b.csv"_s, 10)});
+    background.load({write(u"a.csv"_s, ManyRows), write(u"b.csv"_s, 10)});
     EXPECT_TRUE(bar.isVisible());
     EXPECT_EQ(bar.findChild<QProgressBar*>()->accessibleName(), u"Loading a.csv (1 more to come)");
     EXPECT_TRUE(bar.findChild<QLabel*>()->text().contains("a.csv"_L1));
@@ -161,9 +161,9 @@ TEST_F(BackgroundLoadTest, TheBarShowsWhatIsReadAndCancels)
 
 TEST_F(BackgroundLoadTest, ALongNameDoesNotWidenTheBar)
 {
-    LoadingBar bar(m_load);
+    LoadingBar bar(background);
     const int width = bar.minimumSizeHint().width();
-    m_load.load({write(QString(200, u'x'), 10)});
+    background.load({write(QString(200, u'x'), 10)});
     EXPECT_EQ(bar.minimumSizeHint().width(), width);
     ASSERT_TRUE(waitForEnd());
 }
