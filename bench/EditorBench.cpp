@@ -59,14 +59,14 @@ QByteArray shipped()
 QByteArray enlarged(int factor)
 {
     QJsonObject root = QJsonDocument::fromJson(shipped()).object();
-    for (auto section = root.begin(); section != root.end(); ++section) {
-        if (section->isArray()) {
-            const QJsonArray once = section->toArray();
+    for (auto section : root) {
+        if (section.isArray()) {
+            const QJsonArray once = section.toArray();
             QJsonArray all;
             for (int i = 0; i < factor; ++i) {
                 std::ranges::copy(once, std::back_inserter(all));
             }
-            *section = all;
+            section = all;
         }
     }
     return QJsonDocument(root).toJson();
@@ -118,11 +118,11 @@ int keyStrokes()
         }
         settle(window);
         std::printf("document of %lld kB\n", static_cast<long long>(text.size() / 1000));
-        measure(window, u"Plot"_s, "a blank, which changes nothing", "\"Version\": 29,", u" "_s);
-        measure(window, u"Plot"_s, "the name of a representation", "\"Name\": \"Voltage and current over ", u"x"_s);
-        measure(window, u"Axes"_s, "a data array that becomes unknown", "\"Name\": \"Test Time ", u"x"_s);
-        measure(window, u"Colours"_s, "a colour", "\"RGB\": [", u"1"_s);
-        measure(window, u"Graphs"_s, "the title of a curve", "\"Title\": \"", u"x"_s);
+        measure(window, u"Plot"_s, "a blank, which changes nothing", R"("Version": 29,)", u" "_s);
+        measure(window, u"Plot"_s, "the name of a representation", R"("Name": "Voltage and current over )", u"x"_s);
+        measure(window, u"Axes"_s, "a data array that becomes unknown", R"("Name": "Test Time )", u"x"_s);
+        measure(window, u"Colours"_s, "a colour", R"("RGB": [)", u"1"_s);
+        measure(window, u"Graphs"_s, "the title of a curve", R"("Title": ")", u"x"_s);
         window.editor()->setModified(false);
     }
     return EXIT_SUCCESS;

@@ -56,7 +56,7 @@ QJsonValue enlarged(const QJsonValue& value, int factor)
 /// The shipped document with the lists of every section \p factor times as long, indented as a person would keep it.
 QByteArray documentBytes(int factor)
 {
-    const QByteArray shipped = fileContent(QString::fromUtf8(SHIPPED_DOCUMENT));
+    QByteArray shipped = fileContent(QString::fromUtf8(SHIPPED_DOCUMENT));
     if (factor == 1) {
         return shipped;
     }

@@ -220,6 +220,7 @@ BENCHMARK(isRepresentationValid)->RangeMultiplier(10)->Range(Fewest, Most);
 BENCHMARK(getXAxesNames)->RangeMultiplier(10)->Range(Fewest, Most);
 BENCHMARK(getYAxesNames)->RangeMultiplier(10)->Range(Fewest, Most);
 
+// NOLINTBEGIN(bugprone-macro-parentheses): a template is named
 #define BENCHMARK_WHOLE(operation)                                                                                     \
     BENCHMARK(operation<Caches::Empty>)                                                                                \
         ->Name(#operation "/empty caches")                                                                             \
@@ -232,6 +233,7 @@ BENCHMARK(getYAxesNames)->RangeMultiplier(10)->Range(Fewest, Most);
         ->RangeMultiplier(10)                                                                                          \
         ->Range(Fewest, Most)                                                                                          \
         ->UseManualTime()
+// NOLINTEND(bugprone-macro-parentheses)
 
 BENCHMARK_WHOLE(removeDuplicates);
 BENCHMARK_WHOLE(write);

@@ -4,7 +4,7 @@
 
 #include <cstddef>
 #include <limits>
-#include <memory>
+#include <string>
 #include <vector>
 
 #ifdef __GLIBC__
@@ -21,11 +21,11 @@ thread_local long long count = 0;
 
 // glibc's own functions, which the ones below replace for the whole process, Qt included.
 extern "C" {
-// NOLINTBEGIN(readability-identifier-naming): glibc calls them so
+// NOLINTBEGIN(readability-identifier-naming,bugprone-reserved-identifier): glibc calls them so
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t number, std::size_t size);
 void* __libc_realloc(void* memory, std::size_t size);
-// NOLINTEND(readability-identifier-naming)
+// NOLINTEND(readability-identifier-naming,bugprone-reserved-identifier)
 
 void* malloc(std::size_t size)
 {
@@ -57,10 +57,10 @@ void growHeap()
     [[maybe_unused]] static const bool grown = [] {
         mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
         mallopt(M_MMAP_THRESHOLD, static_cast<int>(32 * MiB)); // the highest there is
-        std::vector<std::unique_ptr<char[]>> blocks(512);
-        for (auto& block : blocks) {
-            block = std::make_unique<char[]>(MiB);
-            benchmark::DoNotOptimize(block.get());
+        std::vector<std::string> blocks(512);
+        for (std::string& block : blocks) {
+            block.resize(MiB);
+            benchmark::DoNotOptimize(block.data());
         }
         return true;
     }();

@@ -106,6 +106,7 @@ void literally(benchmark::State& state, bench::NameKind kind, std::string_view q
     for (auto _ : state) {
         const double seconds = secondsFor([&] {
             std::vector<std::optional<int>> scores;
+            scores.reserve(names.size());
             for (const std::string& name : names) {
                 scores.push_back(score(text, name));
             }
@@ -159,9 +160,10 @@ void add(const std::string& name, Function function)
 
 bool registerAll()
 {
-    for (const auto& [kind, name] : bench::NameLists) {
+    for (const bench::NameList& list : bench::NameLists) {
+        const bench::NameKind kind = list.kind;
         for (const bench::Query query : bench::queriesFor(kind)) {
-            const std::string what = std::string(name) + "|" + std::string(query.text);
+            const std::string what = std::string(list.name) + "|" + std::string(query.text);
             add("technique|" + what,
                 [=](benchmark::State& state) { againstFloor<TechniqueSearchStrategy>(state, kind, query); });
             add("text|" + what, [=](benchmark::State& state) { againstFloor<FtsStrategy>(state, kind, query); });

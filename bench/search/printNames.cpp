@@ -6,7 +6,7 @@
 #include <string_view>
 
 /// Prints the names that the search is measured on, for measuring whole programs: printNames LIST COUNT
-int main(int argc, char* argv[])
+int main(int argc, char** argv)
 {
     const auto* list =
         std::find_if(bench::NameLists.begin(), bench::NameLists.end(), [&](const bench::NameList& known) {
