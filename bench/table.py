@@ -52,9 +52,6 @@ def rows(results):
         if result := sized(name, 100000):
             allocations = result["allocations"] - own
             yield f"{name} at 100,000 records ({time(result):.0f} ns): allocations beyond the result", allocations, 0
-    for name, result in results.items():
-        if "target" in result:
-            yield name, result["ratio"], result["target"]
 
 
 def main(paths):

@@ -50,7 +50,7 @@ public:
             match(*letters, m_candidates, m_depth == 0 ? nullptr : &m_levels[m_depth - 1], level.matches);
             ++m_depth;
         }
-        return search::indicesBestFirst(m_levels[m_depth - 1].matches, maxResults);
+        return search::firstOf(search::indicesBestFirst(m_levels[m_depth - 1].matches), maxResults);
     }
 
 private:
@@ -85,13 +85,7 @@ private:
     {
         const search::TechniqueScorer scorer(letters);
         if (before == nullptr) {
-            search::forEachLikely(letters, candidates, [&](std::size_t index, std::string_view text) {
-                const std::optional<int> score = scorer.score(text);
-                if (score) {
-                    matches.push_back({index, *score});
-                }
-                return score.has_value();
-            });
+            search::addMatches(letters, candidates, scorer, matches);
             m_lettersOfPaths.reset(); // for one letter, which is what most begin with, paths are not worth their memory
             return;
         }
@@ -107,15 +101,19 @@ private:
             const std::size_t index = before->matches[i].index;
             const std::string_view text = candidates[index];
             Path path = m_paths[i];
+            int score = 0;
             if (scorer.canFollow(text)) {
-                if (scorer.follow(path, found, text)) {
-                    m_paths[count] = path;
-                    matches[count++] = {index, scorer.scoreOf(path, text)};
+                if (!scorer.follow(path, found, text)) {
+                    continue;
                 }
-            } else if (const std::optional<int> score = scorer.score(text)) {
-                m_paths[count] = path;
-                matches[count++] = {index, *score};
+                score = scorer.scoreOf(path, text);
+            } else if (const std::optional<int> other = scorer.score(text)) {
+                score = *other;
+            } else {
+                continue;
             }
+            m_paths[count] = path;
+            matches[count++] = {index, score};
         }
         matches.resize(count);
         m_paths.resize(count);
@@ -143,15 +141,8 @@ private:
                std::vector<FuzzyMatch>& matches) override
     {
         const search::FtsScorer scorer(letters);
-        const auto add = [&](std::size_t index, std::string_view text) {
-            const std::optional<int> score = scorer.score(text);
-            if (score) {
-                matches.push_back({index, *score});
-            }
-            return score.has_value();
-        };
         if (before == nullptr) {
-            search::forEachLikely(letters, candidates, add);
+            search::addMatches(letters, candidates, scorer, matches);
             return;
         }
         std::vector<std::string_view> texts;
@@ -159,9 +150,10 @@ private:
         for (const FuzzyMatch& match : before->matches) {
             texts.push_back(candidates[match.index]);
         }
-        search::forEachLikely(letters, texts, [&](std::size_t place, std::string_view text) {
-            return add(before->matches[place].index, text);
-        });
+        search::addMatches(letters, texts, scorer, matches);
+        for (FuzzyMatch& match : matches) {
+            match.index = before->matches[match.index].index;
+        }
     }
 };
 

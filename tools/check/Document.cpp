@@ -335,4 +335,10 @@ QString Value::step() const
     return m_document->stepTo(m_index);
 }
 
+QStringView firstStep(QStringView pointer)
+{
+    const qsizetype end = pointer.indexOf(u'/', 1);
+    return end < 0 ? pointer : pointer.first(end);
+}
+
 } // namespace cluiconfig::check

@@ -10,8 +10,7 @@ qsizetype offsetOf(const QByteArray& text, const QJsonObject& root, const QStrin
     QStringView way = pointer;
     Value value = document.root();
     while (!way.isEmpty()) {
-        const qsizetype end = way.indexOf(u'/', 1);
-        const QStringView step = end < 0 ? way : way.first(end);
+        const QStringView step = firstStep(way);
         std::optional<Value> next;
         value.forEach([&](const Value& child) {
             if (!next && child.step() == step) {

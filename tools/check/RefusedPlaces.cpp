@@ -35,8 +35,7 @@ RefusedPlaces::Place& RefusedPlaces::placeAt(QStringView pointer)
 {
     Place* place = &m_root;
     while (!pointer.isEmpty()) {
-        const qsizetype next = pointer.indexOf(u'/', 1);
-        const QStringView step = next < 0 ? pointer : pointer.first(next);
+        const QStringView step = firstStep(pointer);
         std::unique_ptr<Place>& child = place->within[step.toString()];
         if (!child) {
             child = std::make_unique<Place>();

@@ -85,14 +85,7 @@ public:
         }
         return folded;
     }
-    unsigned equalTo(unsigned char byte) const
-    {
-        unsigned bits = 0;
-        for (std::size_t i = 0; i < ChunkSize; ++i) {
-            bits |= (m_bytes[i] == byte ? 1U : 0U) << i;
-        }
-        return bits;
-    }
+    unsigned equalTo(unsigned char byte) const { return equalTo(filledWith(static_cast<char>(byte))); }
     unsigned equalTo(const PortableChunk& other) const
     {
         unsigned bits = 0;
@@ -152,7 +145,7 @@ public:
     Sse2Chunk inLowerCase() const
     {
         Sse2Chunk lower;
-        lower.m_bytes = _mm_or_si128(m_bytes, _mm_and_si128(from<'A'>(), _mm_set1_epi8('a' - 'A')));
+        lower.m_bytes = _mm_or_si128(m_bytes, _mm_and_si128(from<'A'>(), _mm_set1_epi8(CaseBit)));
         return lower;
     }
     Sse2Chunk folded() const
@@ -161,7 +154,7 @@ public:
         folded.m_bytes = _mm_or_si128(m_bytes, _mm_set1_epi8(CaseBit));
         return folded;
     }
-    unsigned equalTo(unsigned char byte) const { return bits(equal(static_cast<char>(byte))); }
+    unsigned equalTo(unsigned char byte) const { return equalTo(filledWith(static_cast<char>(byte))); }
     unsigned equalTo(const Sse2Chunk& other) const { return bits(_mm_cmpeq_epi8(m_bytes, other.m_bytes)); }
     unsigned wordStarts(const Sse2Chunk& previous) const
     {

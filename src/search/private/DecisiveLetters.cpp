@@ -15,11 +15,9 @@ namespace search {
 
 namespace {
 
-constexpr std::size_t MostQueryLetters = 32; // those behind them are not considered
-
-/// Letters of the query, one bit for each.
+/// Letters of the query that the filter looks for, one bit for each.
 using Letters = std::uint32_t;
-static_assert(MostQueryLetters <= 32);
+static_assert(SubsequenceFilter::MostLetters <= 32);
 
 /// A letter that rejects no more than one in so many texts costs more than it saves.
 constexpr std::size_t WorthIt = 16;
@@ -31,7 +29,7 @@ constexpr std::size_t TextCost = 64;
 /// Where the letters of the query are in one text.
 struct Places
 {
-    std::array<PositionSet<2>, MostQueryLetters> of{};
+    std::array<PositionSet<2>, SubsequenceFilter::MostLetters> of{};
     std::size_t length = 0; // how many positions there may be
 
     /// What \p letters cost in this text; nothing if they are not in it in their order.
@@ -43,7 +41,7 @@ struct Places
         PositionSet<2> last = PositionSet<2>::none();
         PositionSet<2> rest = PositionSet<2>::all();
         for (; letters != 0; letters &= letters - 1) {
-            last = (of[static_cast<std::size_t>(std::countr_zero(letters))] & rest);
+            last = of[static_cast<std::size_t>(std::countr_zero(letters))] & rest;
             rest = last.allAboveLowest();
         }
         if (last.empty()) {
@@ -115,10 +113,13 @@ Letters chosenLetters(std::vector<Places> texts, std::size_t count)
 /// \p chosen without those letters that turn out to bring little beside the others.
 Letters usefulLetters(const std::vector<Places>& texts, Letters chosen)
 {
+    std::size_t surviving = survivors(texts, chosen);
     for (Letters rest = chosen; rest != 0; rest &= rest - 1) {
         const Letters without = chosen & ~(rest & (0 - rest));
-        if (WorthIt * (survivors(texts, without) - survivors(texts, chosen)) <= texts.size()) {
+        const std::size_t survivingWithout = survivors(texts, without);
+        if (WorthIt * (survivingWithout - surviving) <= texts.size()) {
             chosen = without;
+            surviving = survivingWithout;
         }
     }
     return chosen;
@@ -128,7 +129,7 @@ Letters usefulLetters(const std::vector<Places>& texts, Letters chosen)
 
 DecisiveLetters decisiveLetters(std::string_view query, std::span<const std::string_view> sample)
 {
-    query = query.substr(0, MostQueryLetters);
+    query = query.substr(0, SubsequenceFilter::MostLetters);
     std::vector<Places> texts;
     for (const std::string_view text : sample) {
         if (text.size() >= ShortestInPieces && text.size() <= LongestInPieces) {

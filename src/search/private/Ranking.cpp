@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdint>
 #include <iterator>
-#include <limits>
 #include <utility>
 
 namespace search {
@@ -67,22 +66,6 @@ std::vector<typename As::Type> distribute(Iterator begin, Iterator end, Digit di
     return ordered;
 }
 
-struct ScoreRange
-{
-    int worst = std::numeric_limits<int>::max();
-    int best = std::numeric_limits<int>::min();
-};
-
-ScoreRange scoreRange(std::span<const FuzzyMatch> matches)
-{
-    ScoreRange range;
-    for (const FuzzyMatch& match : matches) {
-        range.worst = std::min(range.worst, match.score);
-        range.best = std::max(range.best, match.score);
-    }
-    return range;
-}
-
 template <class As>
 std::vector<typename As::Type> ordered(std::span<const FuzzyMatch> matches)
 {
@@ -97,7 +80,12 @@ std::vector<typename As::Type> ordered(std::span<const FuzzyMatch> matches)
         return result;
     }
 
-    const auto [worst, best] = scoreRange(matches);
+    int best = matches.front().score;
+    int worst = best;
+    for (const FuzzyMatch& match : matches) {
+        best = std::max(best, match.score);
+        worst = std::min(worst, match.score);
+    }
 
     // Backwards the matches have the order that equal scores shall have, and every digit keeps it. Scores lie close
     // together, so that there is hardly ever more than one digit.
@@ -121,9 +109,9 @@ std::vector<FuzzyMatch> bestFirst(std::span<const FuzzyMatch> matches)
     return ordered<AsMatch>(matches);
 }
 
-std::vector<std::size_t> indicesBestFirst(std::span<const FuzzyMatch> matches, int maxResults)
+std::vector<std::size_t> indicesBestFirst(std::span<const FuzzyMatch> matches)
 {
-    return firstOf(ordered<AsIndex>(matches), maxResults);
+    return ordered<AsIndex>(matches);
 }
 
 std::vector<std::size_t> firstOf(std::vector<std::size_t> indices, int maxResults)

@@ -27,37 +27,33 @@ std::vector<std::string_view> sampleOf(const Texts& candidates)
     return sample;
 }
 
-/// Calls \p match(index, text) for those of \p candidates, a range of texts, that may contain \p query, by ascending
-/// index. It tells whether they do.
-template <class Texts, class Match>
-void forEachLikely(std::string_view query, const Texts& candidates, const Match& match)
+/// Adds those of \p candidates, a range of texts, that match \p query to \p matches, by ascending index.
+/// \p scorer.score(text) gives the score of a text or nothing; it is asked about few texts that lack the query.
+/// REQUIRES: \p matches is empty.
+template <class Texts, class Scorer>
+void addMatches(std::string_view query, const Texts& candidates, const Scorer& scorer, std::vector<FuzzyMatch>& matches)
 {
     const SubsequenceFilter filter(query, decisiveLetters(query, sampleOf(candidates)));
-    std::size_t matchCount = 0;
     std::size_t index = 0;
     for (std::string_view text : candidates) {
-        // Where most candidates match the filter would be a second reading for nothing: the rule rejects as well.
-        const bool filtering = 2 * matchCount <= index;
+        // Where most candidates match the filter would be a second reading for nothing: the scorer rejects as well.
+        const bool filtering = 2 * matches.size() <= index;
         if (!filtering || filter.mayContain(text)) {
-            matchCount += match(index, text) ? 1 : 0;
+            if (const std::optional<int> score = scorer.score(text)) {
+                matches.push_back({index, *score});
+            }
         }
         ++index;
     }
 }
 
-/// The matches that \p scorer gives a score, by ascending index.
+/// Those matches in a list of their own.
 template <class Texts, class Scorer>
 std::vector<FuzzyMatch> findMatches(std::string_view query, const Texts& candidates, const Scorer& scorer)
 {
     std::vector<FuzzyMatch> matches;
     matches.reserve(candidates.size()); // memory that is not written to costs next to nothing
-    forEachLikely(query, candidates, [&](std::size_t index, std::string_view text) {
-        const std::optional<int> score = scorer.score(text);
-        if (score) {
-            matches.push_back({index, *score});
-        }
-        return score.has_value();
-    });
+    addMatches(query, candidates, scorer, matches);
     return matches;
 }
 
@@ -65,8 +61,8 @@ std::vector<FuzzyMatch> findMatches(std::string_view query, const Texts& candida
 /// REQUIRES: \p matches come by ascending index.
 std::vector<FuzzyMatch> bestFirst(std::span<const FuzzyMatch> matches);
 
-/// The indices of the matches in that order, or of the first \p maxResults unless that is negative.
-std::vector<std::size_t> indicesBestFirst(std::span<const FuzzyMatch> matches, int maxResults = -1);
+/// The indices of the matches in that order.
+std::vector<std::size_t> indicesBestFirst(std::span<const FuzzyMatch> matches);
 
 /// The first \p maxResults of \p indices; all for a negative number.
 std::vector<std::size_t> firstOf(std::vector<std::size_t> indices, int maxResults);

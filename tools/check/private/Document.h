@@ -6,6 +6,7 @@
 #include <QJsonValue>
 #include <QLatin1StringView>
 #include <QString>
+#include <QStringView>
 
 #include <optional>
 #include <utility>
@@ -124,5 +125,8 @@ private:
     quint32 m_index;
     QJsonValue m_json;
 };
+
+/// The first step of \p pointer, as Value::step() gives it. REQUIRES: the pointer is not empty.
+QStringView firstStep(QStringView pointer);
 
 } // namespace cluiconfig::check
