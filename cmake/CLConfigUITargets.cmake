@@ -32,14 +32,20 @@ function(clconfigui_add_library name header_root)
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:clconfigui_strict>)
-    if(CLCONFIGUI_COVERAGE)
-        target_compile_options(${name} PRIVATE
-            -fprofile-instr-generate=${PROJECT_BINARY_DIR}/profiles/%4m.profraw -fcoverage-mapping)
-        target_link_options(${name} PRIVATE -fprofile-instr-generate)
-    endif()
+    clconfigui_count_lines(${name})
     set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
     if(WIN32)
         set_target_properties(${name} PROPERTIES PREFIX "") # CLConfigUI.dll, whichever compiler makes it
+    endif()
+endfunction()
+
+# clconfigui_count_lines(TARGET)
+# Counts which lines of TARGET run, where CLCONFIGUI_COVERAGE asks for it.
+function(clconfigui_count_lines target)
+    if(CLCONFIGUI_COVERAGE)
+        target_compile_options(${target} PRIVATE
+            -fprofile-instr-generate=${PROJECT_BINARY_DIR}/profiles/%4m.profraw -fcoverage-mapping)
+        target_link_options(${target} PRIVATE -fprofile-instr-generate)
     endif()
 endfunction()
 
